@@ -1,0 +1,70 @@
+#pragma once
+// The system's conventions for text, numbers and dates, in one place. Every
+// form and routine pads, rounds, formats and counts days through these; none
+// writes its own. All Brazilian forms use the decimal comma and the point as
+// thousands separator; none of this depends on the C locale.
+#include "core/money.h"
+#include "core/val.h"
+
+#include <QDate>
+#include <QString>
+#include <stdexcept>
+
+// A failure of the run that the original raised as a runtime error (for
+// example ZeroEsq of a text longer than its width). Callers let it through,
+// or stop the run with its message; it is never mistaken for a result.
+class RunFailure : public std::runtime_error {
+public:
+    explicit RunFailure(const QString &message) : std::runtime_error(message.toStdString()), message_(message) {}
+    QString message() const { return message_; }
+
+private:
+    QString message_;
+};
+
+// ---- Field helpers of the system ------------------------------------------
+QString ZeroEsq(const QString &text, int width);          // trims; longer than width: RunFailure
+QString VirgulaPonto(const QString &text);                // trims; ',' -> '.'
+double Arredonda(Money value, int places);                // floor(v*10^p + 0.5)/10^p in double
+QString SoNumero(QString &text);                          // trims text in place; digits, ':' and the first comma
+QString SoNumeroSinal(QString &text);                     // the same, and every minus sign
+QString UltimoDia(const QDate &date);                     // "28".."31", February by year % 4 only
+QString NomeMes(int month);                               // 1..11 by name, anything else "Dezembro"
+QString SemAcento(const QString &text);                   // accents off, apostrophe to blank
+bool ValidaCPF(const QString &text);                      // messages through the prompter
+bool ValidaCGC(const QString &text);
+bool ValidaUF(const QString &uf);                         // reads Estados on session.conSistema
+
+// ---- Scrambling of passwords -----------------------------------------------
+QString EmbaralhaAdm(const QString &text);                // parity even, offset 0
+QString EmbaralhaSenha(const QString &text);              // parity odd, offset 5
+
+// ---- Number to text ----------------------------------------------------------
+// Plain conversion to text in the Brazilian locale: no thousands separator, no
+// trailing zeros, decimal comma ("12,5", "-0,01", "3").
+QString moneyText(Money value);
+QString doubleText(double value);                         // at most 15 significant digits
+QString singleText(float value);                          // at most 7 significant digits
+// The form that puts a blank before a non-negative number and a '.' before a
+// fraction (" 7320.5", "-3").
+QString strText(double value);
+// Format pictures: "#######0.00", "###,###,##0.00", "R$ ###,###,##0.00",
+// "#,###,##0.00", "##,###,##0.00", "0000000000", "0000", "@@@@@@" ... with
+// the Brazilian separators (',' thousands in the picture prints '.', '.'
+// decimal in the picture prints ',').
+QString formatNumber(double value, const QString &picture);
+QString formatMoney(Money value, const QString &picture);
+QString formatText(const QString &text, const QString &picture);   // "@@@@@@"
+// Date pictures: "dd/mm/yyyy", "mm/dd/yyyy", "mm/yyyy", "yyyy", "yymm", "ddmmyy", "ddmm".
+QString formatDate(const QDate &date, const QString &picture);
+
+// ---- Dates --------------------------------------------------------------------
+int dateToDays(const QDate &date);                        // 30/12/1899 is day 0
+QDate daysToDate(int days);
+bool isDateText(const QString &ddmmyyyy);                 // a valid "dd/mm/yyyy"
+QDate dateFromText(const QString &ddmmyyyy);              // invalid QDate when not a date
+
+// ---- Masks ----------------------------------------------------------------------
+inline const QString kEmptyDate = QStringLiteral("__/__/____");
+inline const QString kEmptyMonthYear = QStringLiteral("__/____");
+QString bareText(const QString &masked);                  // the text without its prompt '_' and literals
