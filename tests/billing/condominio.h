@@ -110,3 +110,7 @@ public:
 };
 
 inline Money reais(double v) { return Money::fromDouble(v); }
+
+// Readable values in test failures.
+inline void PrintTo(const QString &s, std::ostream *os) { *os << '"' << s.toStdString() << '"'; }
+inline void PrintTo(const Money &m, std::ostream *os) { *os << m.units() / 10000.0; }

@@ -141,9 +141,10 @@ TEST(EmissaoAutomatica, SecondRunDuplicatesOnlyWithoutFees)
         ASSERT_TRUE(gravaParametros(c.con, semTaxa).empty());
         EXPECT_EQ(emissaoAutomatica(c.con, semTaxa).emitidos, 3);
     }
-    // fhonor false: no items at all, and the month issued twice.
+    // fhonor false only drops the conditions of the selection: the fee items
+    // are still issued, and the month is issued twice.
     EXPECT_EQ(c.conta(QStringLiteral("SELECT Count(codauto) As I FROM Recibos")), 6);
-    EXPECT_EQ(c.dinheiro(recibo(QStringLiteral("000004")), "vtotal"), Money());
+    EXPECT_EQ(c.dinheiro(recibo(QStringLiteral("000004")), "vtotal"), reais(300));
     EXPECT_EQ(c.conta(QStringLiteral("SELECT Count(codauto) As I FROM Recibos WHERE codap = '000001'")), 2);
 
     ParametrosEmissao comTaxa = c.mes(true, QStringLiteral("000006"));
