@@ -343,7 +343,7 @@ void registerFunctions(sqlite3 *db)
         void (*fn)(sqlite3_context *, int, sqlite3_value **);
     };
     static const Fn fns[] = {{"val", 1, fnVal},         {"jet_left", 2, fnLeft},      {"jet_right", 2, fnRight},
-                             {"jet_round", 1, fnRound}, {"jet_round", 2, fnRound},    {"isnull", 1, fnIsNull},
+                             {"jet_round", 1, fnRound}, {"jet_round", 2, fnRound},    {"jet_isnull", 1, fnIsNull},
                              {"mid", 2, fnMid},         {"mid", 3, fnMid},            {"len", 1, fnLen},
                              {"ucase", 1, fnUcase},     {"lcase", 1, fnLcase},        {"year", 1, fnDatePart<0>},
                              {"month", 1, fnDatePart<1>}, {"day", 1, fnDatePart<2>}, {"int", 1, fnInt}};
@@ -786,3 +786,13 @@ const Field &Recordset::operator[](const QString &column) const
 }
 
 QStringList Recordset::columnNames() const { return impl_->columns ? impl_->columns->names : QStringList(); }
+
+const Field &Recordset::fieldAt(int index) const
+{
+    if (eof())
+        throw DatabaseError(kNoCurrentRecord, QString());
+    if (index < 0 || size_t(index) >= impl_->width())
+        throw DatabaseError(
+            QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), QString());
+    return impl_->cells[impl_->current * impl_->width() + size_t(index)];
+}

@@ -121,6 +121,9 @@ public:
     const Field &operator[](const QString &column) const;
     const Field &field(const QString &column) const { return (*this)[column]; }
     QStringList columnNames() const;
+    // Field of the current row by position (0-based), for tools that list
+    // every column, where two tables may give one name.
+    const Field &fieldAt(int index) const;
 
     struct Impl;
 

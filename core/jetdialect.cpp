@@ -393,7 +393,7 @@ private:
             return std::nullopt;
         };
         int depth = 0, index = 0;
-        for (size_t j = k + 1; j < t_.size(); ++j) {
+        for (size_t j = k + 2; j < t_.size(); ++j) {
             const Token &tok = t_[j];
             if (isOp(tok, u"(")) {
                 ++depth;
@@ -415,8 +415,9 @@ private:
 
     void put(QStringView s)
     {
+        const bool call = s == u"(" && !sql_.isEmpty() && (sql_.back().isLetterOrNumber() || sql_.back() == u'_');
         if (!sql_.isEmpty() && !sql_.endsWith(u'.') && s != u"." && s != u"," && s != u")" &&
-            !sql_.endsWith(u'('))
+            !sql_.endsWith(u'(') && !call)
             sql_ += u' ';
         sql_ += s;
     }
@@ -454,6 +455,10 @@ private:
                     }
                     if (is(tok, QLatin1StringView("ROUND"))) {
                         put(u"jet_round");
+                        break;
+                    }
+                    if (is(tok, QLatin1StringView("ISNULL"))) {  // a keyword of SQLite
+                        put(u"jet_isnull");
                         break;
                     }
                 }

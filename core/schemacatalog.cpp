@@ -170,6 +170,8 @@ QStringList SchemaCatalog::createStatements() const
                 def += QStringLiteral(" COLLATE NOCASE");
             else if (c.kind == ColumnKind::Counter)
                 def += QStringLiteral(" PRIMARY KEY AUTOINCREMENT");
+            else if (c.kind != ColumnKind::Date)
+                def += QStringLiteral(" DEFAULT 0");  // numbers and Yes/No start at 0, as in the original files
             cols << def;
         }
         out << QStringLiteral("CREATE TABLE %1 (%2)").arg(t.name, cols.join(QStringLiteral(", ")));

@@ -9,6 +9,9 @@
 
 namespace {
 
+char16_t unit(QChar c) { return c.unicode(); }
+char16_t unit(char c) { return char16_t(static_cast<unsigned char>(c)); }
+
 bool isSkipped(char16_t c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; }
 
 // Reads digits of the given base; returns false when there are none.
@@ -19,7 +22,7 @@ double readRadix(const Text &text, qsizetype i, int base)
     // a plain non-negative reading is enough for the codes the system has.
     double value = 0;
     for (; i < qsizetype(text.size()); ++i) {
-        const char16_t c = char16_t(text[i]);
+        const char16_t c = unit(text[i]);
         if (isSkipped(c))
             continue;
         int d = -1;
@@ -41,7 +44,7 @@ double valImpl(const Text &text)
 {
     const qsizetype n = qsizetype(text.size());
     qsizetype i = 0;
-    auto at = [&](qsizetype k) -> char16_t { return k < n ? char16_t(text[k]) : u'\0'; };
+    auto at = [&](qsizetype k) -> char16_t { return k < n ? unit(text[k]) : u'\0'; };
     auto skip = [&] { while (i < n && isSkipped(at(i))) ++i; };
 
     skip();
