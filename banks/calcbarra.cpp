@@ -94,7 +94,7 @@ ParametrosGravados leParametrosBanco(Connection &con)
     g.ritaucart = rs["RitauCart"].text();
     g.ritaunn = rs["RitauNn"].text();
     g.ritauespNulo = rs["RitauEsp"].isNull();
-    g.ritauesp = g.ritauespNulo ? QStringLiteral("DM") : rs["RitauEsp"].text();
+    g.ritauesp = rs["RitauEsp"].text();
     g.ritaui1 = rs["Ritaui1"].text();
     g.ritaui2 = rs["Ritaui2"].text();
     return g;

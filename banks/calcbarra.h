@@ -42,7 +42,7 @@ FimCalcBarra cmdCalcBarra(Connection &con, FormCalcBarra &form, const QString &n
 struct ParametrosGravados {
     QString rbanco, ritauag, ritaucc, ritaucd, ritaucgc, ritaucpf, rconvenio, ritaucart, ritaunn, ritauesp,
         ritaui1, ritaui2;
-    bool ritauespNulo = false;
+    bool ritauespNulo = false;   // the form then shows the species "DM"
 };
 ParametrosGravados leParametrosBanco(Connection &con);
 // The form's fields from the stored row: the wallet gets its prompt
