@@ -2,6 +2,7 @@
 #include "banks/bancos.h"
 #include "habtoolrun.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 TEST(HabtoolBanks, DigitFactorAndSlip)
@@ -73,4 +74,43 @@ TEST(HabtoolBanks, BarrasRunsOnACondominiumFile)
     const HabtoolResult itau = habtool({"barras", file.path(), "--select", "SELECT * FROM Recibos"});
     EXPECT_EQ(itau.exitCode, 1);
     EXPECT_TRUE(itau.err.contains(QStringLiteral("Este Banco utiliza emissão de Remessa !")));
+}
+
+TEST(HabtoolBanks, RemessaRunsOnACondominiumFile)
+{
+    BankFile file;
+    file.apto(QStringLiteral("000101"), QStringLiteral("Ana Müller"), QStringLiteral("123.456.789-09"));
+    file.recibo(QStringLiteral("000001"), QStringLiteral("000101"), QStringLiteral("99.99"), QStringLiteral("02/20/2008"));
+    file.recibo(QStringLiteral("000002"), QStringLiteral("000101"), QStringLiteral("99.99"), QStringLiteral("02/20/2008"));
+    file.parametros(QStringLiteral("422"), QStringLiteral("0123"), QStringLiteral("123456-7"), QString(),
+                    QStringLiteral("01"), QStringLiteral("12345678"));
+    const QString out = file.dir.path() + QStringLiteral("SAFRA.TXT");
+
+    const HabtoolResult run = habtool({"remessa", file.path(), out, "--data", "10/01/2008"});
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(QStringLiteral("Arquivo Finalizado, foram gerados 0002 recibos neste arquivo !")));
+    QFile f(out);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray bytes = f.readAll();
+    f.close();
+    EXPECT_EQ(bytes.size(), 4 * 402);
+    EXPECT_EQ(bytes.mid(402 + 62, 9), QByteArray("123456797"));
+    EXPECT_EQ(bytes.mid(402 + 234, 10), QByteArray("Ana Muller"));
+    EXPECT_EQ(file.ritauNn(), QStringLiteral("12345680"));
+    EXPECT_EQ(file.coluna(QStringLiteral("000002"), QStringLiteral("codbco")), QStringLiteral("422"));
+
+    // The file exists: without --sim the answer is No and the file stays.
+    const HabtoolResult again = habtool({"remessa", file.path(), out, "--select", "SELECT * FROM Recibos"});
+    EXPECT_EQ(again.exitCode, 1);
+    EXPECT_TRUE(again.err.contains(QStringLiteral("sobregrava ?")));
+    EXPECT_EQ(file.ritauNn(), QStringLiteral("12345680"));
+    const HabtoolResult yes = habtool({"remessa", file.path(), out, "--select", "SELECT * FROM Recibos", "--sim"});
+    EXPECT_EQ(yes.exitCode, 0) << yes.err.toStdString();
+    EXPECT_EQ(file.ritauNn(), QStringLiteral("12345682"));
+
+    file.parametros(QStringLiteral("104"), QStringLiteral("0123"), QStringLiteral("12345678"), QStringLiteral("870"),
+                    QStringLiteral("00"));
+    const HabtoolResult caixa = habtool({"remessa", file.path(), out, "--sim"});
+    EXPECT_EQ(caixa.exitCode, 1);
+    EXPECT_TRUE(caixa.err.contains(QStringLiteral("Este Banco não utiliza Remessa !")));
 }
