@@ -378,7 +378,8 @@ struct Connection::Impl {
                 while (sqlite3_step(st) == SQLITE_ROW)
                     cols.push_back({QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st, 0))),
                                     SchemaCatalog::kindOfDeclaredType(
-                                        reinterpret_cast<const char *>(sqlite3_column_text(st, 1)))});
+                                        reinterpret_cast<const char *>(sqlite3_column_text(st, 1))),
+                                    QString()});
             }
             sqlite3_finalize(st);
             it = tableColumns.insert(key, std::move(cols));
