@@ -40,6 +40,9 @@ QFont makeFont(const FontSpec &spec)
     f.setBold(spec.bold);
     f.setItalic(spec.italic);
     f.setHintingPreference(QFont::PreferNoHinting);
+    // Any letter spacing switches ligatures off, so that "fi" stays two letters
+    // when the PDF is searched or copied. A fiftieth of a hundredth of a mm.
+    f.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);
     return f;
 }
 
