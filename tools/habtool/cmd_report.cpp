@@ -3,8 +3,7 @@
 // then one TAB-separated line per row. Each NAME=VALUE sets a formula.
 #include "tools/habtool/habtool.h"
 
-#include "core/session.h"
-#include "reporting/imprime.h"
+#include "reporting/renderer.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -83,7 +82,6 @@ int cmdReport(const QStringList &args)
                                                                : QFileInfo(templatePath).completeBaseName();
     try {
         const ReportTemplate tpl = loadTemplate(templatePath);
-        formulasComuns(data);
         const ReportDocument doc = renderReport(tpl, data);
         for (const QString &note : doc.log)
             err(note);
