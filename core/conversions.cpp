@@ -483,6 +483,33 @@ QString formatText(const QString &text, const QString &picture)
     return result;
 }
 
+QString formatNumberText(const QString &text, const QString &picture)
+{
+    const QString t = trimBlanks(text);
+    qsizetype i = 0;
+    if (i < t.size() && (t.at(i) == u'-' || t.at(i) == u'+'))
+        ++i;
+    qsizetype digits = 0;
+    bool comma = false;
+    for (; i < t.size(); ++i) {
+        const QChar c = t.at(i);
+        if (c.isDigit() && c.unicode() < 128)
+            ++digits;
+        else if (c == u',' && !comma)
+            comma = true;
+        else
+            return text;
+    }
+    if (digits == 0)
+        return text;
+    std::string number = QString(t).replace(u',', u'.').toStdString();
+    if (number.front() == '+')
+        number.erase(0, 1);
+    double value = 0;
+    std::from_chars(number.data(), number.data() + number.size(), value);
+    return formatNumber(value, picture);
+}
+
 QString formatDate(const QDate &date, const QString &picture)
 {
     if (!date.isValid())
@@ -514,6 +541,16 @@ QString formatDate(const QDate &date, const QString &picture)
         i += run;
     }
     return result;
+}
+
+// ---- The accounting's rounding step ----------------------------------------------
+
+Money roundedMoney(Money value, int places) { return Money::fromDouble(Arredonda(value, places)); }
+
+float accumulateSingle(float accumulator, Money value)
+{
+    const Money sum = Money::fromDouble(double(accumulator)) + roundedMoney(value, 2);
+    return float(roundedMoney(sum, 2).toDouble());
 }
 
 // ---- Dates -----------------------------------------------------------------------------------

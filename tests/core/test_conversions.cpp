@@ -229,3 +229,35 @@ TEST(Masks, BareTextDropsPromptsAndLiterals)
     EXPECT_EQ(bareText(QStringLiteral("01/2004")), QStringLiteral("012004"));
     EXPECT_EQ(bareText(QStringLiteral("12.3__")), QStringLiteral("123"));
 }
+
+TEST(FormatNumber, FieldTextThroughAPicture)
+{
+    EXPECT_EQ(formatNumberText(QStringLiteral("12"), QStringLiteral("0000")), QStringLiteral("0012"));
+    EXPECT_EQ(formatNumberText(QStringLiteral(" 345 "), QStringLiteral("0000")), QStringLiteral("0345"));
+    EXPECT_EQ(formatNumberText(QStringLiteral("1,5"), QStringLiteral("0.00")), QStringLiteral("1,50"));
+    EXPECT_EQ(formatNumberText(QStringLiteral("-7"), QStringLiteral("0000")), QStringLiteral("-0007"));
+    EXPECT_EQ(formatNumberText(QStringLiteral("12a"), QStringLiteral("0000")), QStringLiteral("12a"));
+    EXPECT_EQ(formatNumberText(QString(), QStringLiteral("0000")), QString());
+    EXPECT_EQ(formatNumberText(QStringLiteral("1,2,3"), QStringLiteral("0000")), QStringLiteral("1,2,3"));
+}
+
+TEST(AccountingRounding, SingleAccumulatorRoundsEachStepAndKeepsSevenDigits)
+{
+    EXPECT_EQ(roundedMoney(Money::fromUnits(12345), 2), Money::fromUnits(12300));
+    EXPECT_EQ(roundedMoney(Money::fromUnits(-1250), 2), Money::fromUnits(-1200));
+
+    float a = 0;
+    a = accumulateSingle(a, Money::fromUnits(21250));   // 2,125 -> 2,13: 212,5 is exact
+    a = accumulateSingle(a, Money::fromUnits(20049));   // 2,0049 -> 2,00
+    // 1,005 is held below the half in double: 100,4999... + 0,5 floors to 100.
+    a = accumulateSingle(a, Money::fromUnits(10050));
+    EXPECT_FLOAT_EQ(a, 5.13f);
+    EXPECT_EQ(singleText(a), QStringLiteral("5,13"));
+
+    // Above about 99.999,99 a single loses the cents.
+    float big = 0;
+    big = accumulateSingle(big, Money::fromInt(123456));
+    big = accumulateSingle(big, Money::fromUnits(7800));  // 0,78
+    EXPECT_EQ(singleText(big), QStringLiteral("123456,8"));
+    EXPECT_EQ(doubleText(double(big)), QStringLiteral("123456,78125"));
+}
