@@ -2,6 +2,7 @@
 // the main window. A routine that ends the program, and a failure of the
 // database, reach the top level here.
 #include "app/formcatalog.h"
+#include "core/forms/icones.h"
 #include "core/forms/mdiHabitarium.h"
 #include "core/widgets/messageboxprompter.h"
 #include "core/widgets/modal.h"
@@ -32,6 +33,7 @@ int main(int argc, char **argv)
 {
     Aplicacao app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Habitarium"));
+    QApplication::setWindowIcon(iconeBarra(1));
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     QTranslator qtTexts;
     if (qtTexts.load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"), QStringLiteral("_"),

@@ -34,7 +34,11 @@ frmSobre::frmSobre(QWidget *parent) : QWidget(parent)
         "Equipe Habitarium - atendimento em dias úteis, das 8h às 18h.\n"
         "Ao pedir ajuda, informe a versão acima, o condomínio ativo e a mensagem exibida.\n"
         "Antes de qualquer ajuste, faça uma cópia de segurança dos arquivos Con*.mdb."));
-    txtSuporte->setFixedHeight(txtSuporte->fontMetrics().lineSpacing() * 6);
+    txtSuporte->setLineWrapMode(QPlainTextEdit::NoWrap);
+    txtSuporte->setFixedHeight(txtSuporte->fontMetrics().lineSpacing() * 5 + 12);
+    txtSuporte->setMinimumWidth(txtSuporte->fontMetrics().horizontalAdvance(
+                                    QStringLiteral("Ao pedir ajuda, informe a versão acima, o condomínio ativo e a mensagem exibida."))
+                                + 24);
 
     auto *cmdOK = new QPushButton(QStringLiteral("Sair"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));

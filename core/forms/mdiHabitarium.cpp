@@ -166,6 +166,7 @@ static const char *const kSoUsuario[] = {"mnuApart", "mnuBlocos", "mnuMao",   "m
 mdiHabitarium::mdiHabitarium(QWidget *parent) : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("mdiHabitarium"));
+    setWindowIcon(iconeBarra(1));
     area_ = new QMdiArea(this);
     area_->setObjectName(QStringLiteral("areaMdi"));
     area_->setBackground(QColor(104, 120, 140));

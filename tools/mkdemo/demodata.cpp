@@ -124,7 +124,9 @@ Pessoa sorteiaPessoa(Sorteio &s)
     Pessoa p;
     const QString primeiro = QString::fromUtf8(s.pick(kNomes));
     const QString meio = QString::fromUtf8(s.pick(kSobrenomes));
-    const QString ultimo = QString::fromUtf8(s.pick(kSobrenomes));
+    QString ultimo = QString::fromUtf8(s.pick(kSobrenomes));
+    while (ultimo == meio)
+        ultimo = QString::fromUtf8(s.pick(kSobrenomes));
     p.nome = primeiro + u' ' + QString::fromLatin1(s.pick(kPreposicoes)) + meio + u' ' + ultimo;
     p.cpf = sorteiaCpf(s);
     p.rg = QStringLiteral("%1.%2.%3-%4")

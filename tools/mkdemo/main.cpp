@@ -268,7 +268,7 @@ void Demo::unidades()
                 const bool moraNoPredio = tuso == QLatin1String("1");
                 const Endereco e = moraNoPredio ? Endereco{kRua, kBairro, kCidade, QStringLiteral("SP"), kCep, QStringLiteral("11")} : dono.endereco;
                 const QString numero = moraNoPredio ? kNumero : dono.numero;
-                const QString compl = moraNoPredio ? complemento : (dono.complemento.isEmpty() ? QStringLiteral(" ") : dono.complemento);
+                const QString complementoDono = moraNoPredio ? complemento : (dono.complemento.isEmpty() ? QStringLiteral(" ") : dono.complemento);
                 const bool alugado = tuso == QLatin1String("2");
                 const Pessoa inq = alugado ? sorteiaPessoa(s_) : Pessoa{};
                 const QString conjuge = s_.chance(60) ? sorteiaPessoa(s_).nome : QStringLiteral(" ");
@@ -285,7 +285,7 @@ void Demo::unidades()
                     + u',' + b(s_.chance(40)) + u',' + b(s_.chance(70)) + u',' + b(cabina) + u',' + b(s_.chance(15)) + u','
                     + a(cobertura ? QStringLiteral("2") : tapto == QLatin1String("01") ? QStringLiteral("1") : QStringLiteral("1.3"))
                     + u',' + QString::number(imob) + QStringLiteral(",1,") + q(conjuge) + u',' + q(e.rua) + u',' + q(numero) + u','
-                    + q(compl) + u',' + q(e.bairro) + u',' + q(e.cidade) + u',' + a(e.uf) + u',' + a(e.cep) + u','
+                    + q(complementoDono) + u',' + q(e.bairro) + u',' + q(e.cidade) + u',' + a(e.uf) + u',' + a(e.cep) + u','
                     + a(cpfValido(s_)) + u',' + a(dono.rg) + QStringLiteral(",' ',") + q(dono.email) + u',';
                 if (alugado)
                     sql += q(inq.nome) + u',' + q(kRua) + u',' + q(kNumero) + u',' + q(complemento) + u',' + q(kBairro) + u','
