@@ -55,8 +55,20 @@ QString strText(double value);
 QString formatNumber(double value, const QString &picture);
 QString formatMoney(Money value, const QString &picture);
 QString formatText(const QString &text, const QString &picture);   // "@@@@@@"
+// A field's text through a numeric picture ("0000" on an agency field): text
+// that reads as a number (digits, a sign, one decimal comma, blanks around)
+// is formatted; any other text, the empty one too, comes back as it is.
+QString formatNumberText(const QString &text, const QString &picture);
 // Date pictures: "dd/mm/yyyy", "mm/dd/yyyy", "mm/yyyy", "yyyy", "yymm", "ddmmyy", "ddmm".
 QString formatDate(const QDate &date, const QString &picture);
+
+// ---- The accounting's rounding step -------------------------------------------
+// Arredonda to `places`, back in the money type.
+Money roundedMoney(Money value, int places);
+// Adds a value to a single-precision accumulator as the balance update does:
+// value rounded to two places, accumulator to money, sum, sum rounded to two
+// places, back to single precision. Sums keep seven significant digits.
+float accumulateSingle(float accumulator, Money value);
 
 // ---- Dates --------------------------------------------------------------------
 int dateToDays(const QDate &date);                        // 30/12/1899 is day 0

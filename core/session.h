@@ -20,7 +20,8 @@ struct Session {
     QString sysPath;            // program directory with a trailing '/'
     QString dbSenha;            // database password: empty
     QString conSistema, conAtiva, arqAtivo;
-    QString sql;                // the shared statement text
+    QString sql;                // the shared statement text; also Extenso's result
+    QString linhaExt1, linhaExt2; // the amount in words on two lines (QuebraExtenso)
 
     bool confirmaSaida = true;
     bool cancelaGrava = false;
