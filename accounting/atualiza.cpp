@@ -5,12 +5,6 @@
 
 #include <QDate>
 
-float acumulaSingle(float total, Money valor)
-{
-    const Money soma = Money::fromDouble(double(total)) + arredonda2(valor);
-    return float(arredonda2(soma).toDouble());
-}
-
 QString textoSingle(float valor)
 {
     return valor == 0.0f ? QStringLiteral("0") : singleText(valor);
@@ -45,7 +39,7 @@ void somaLado(Connection &con, const QString &tabela, const QString &conta, cons
     float total = 0;
     while (!rs.eof()) {
         const QString codigo = rs[conta].text();
-        total = acumulaSingle(total, valorMensal(rs[QStringLiteral("vlrlan")]));
+        total = accumulateSingle(total, valorMensal(rs[QStringLiteral("vlrlan")]));
         rs.moveNext();
         if (rs.eof() || rs[conta].text() != codigo) {
             con.Execute(QStringLiteral("UPDATE plano SET ") + coluna + QStringLiteral(" = '") + textoSingle(total) +
@@ -128,8 +122,8 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
                                             QStringLiteral(" FROM plano WHERE codigo LIKE '") + codigo +
                                             QStringLiteral("___'"));
             while (!membros.eof()) {
-                totalDebito = acumulaSingle(totalDebito, valorMensal(membros[vd]));
-                totalCredito = acumulaSingle(totalCredito, valorMensal(membros[vc]));
+                totalDebito = accumulateSingle(totalDebito, valorMensal(membros[vd]));
+                totalCredito = accumulateSingle(totalCredito, valorMensal(membros[vc]));
                 membros.moveNext();
             }
             con.Execute(QStringLiteral("UPDATE plano SET ") + vd + QStringLiteral(" = '") + textoSingle(totalDebito) +
@@ -160,7 +154,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
                 con, 1, 2);
         while (!rs.eof()) {
             const Money saldo =
-                arredonda2(valorMensal(rs[sfAnterior])) + arredonda2(valorMensal(rs[vdMes])) - arredonda2(valorMensal(rs[vcMes]));
+                roundedMoney(valorMensal(rs[sfAnterior]), 2) + roundedMoney(valorMensal(rs[vdMes]), 2) - roundedMoney(valorMensal(rs[vcMes]), 2);
             const float saldoMes = float(saldo.toDouble());
             con.Execute(QStringLiteral("UPDATE Plano SET ") + sfMes + QStringLiteral(" = '") + textoSingle(saldoMes) +
                         QStringLiteral("'") + QStringLiteral(" WHERE codigo = '") + rs[QStringLiteral("codigo")].text() +

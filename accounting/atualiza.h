@@ -31,11 +31,6 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
 // is not empty ("__/____").
 void GravaMesBase(Connection &con, const QString &anoMesFim, bool alterado);
 
-// One amount into a 32-bit float total, in the original order: the amount
-// rounded to two places, the total taken to the currency type, the sum
-// rounded to two places and stored back as a float.
-float acumulaSingle(float total, Money valor);
-
 // A float as the statements carry it: at most seven significant digits with
 // the decimal comma; zero is "0".
 QString textoSingle(float valor);

@@ -43,13 +43,13 @@ bool EncheRBalancete(Connection &con, const QString &mesIni, const QString &mesF
     Progress p;
     p.max = int(rs.recordCount());
     while (!rs.eof()) {
-        const Money saldoIni = arredonda2(valorMensal(rs[sini]));
-        const Money saldoFin = arredonda2(valorMensal(rs[sfin]));
+        const Money saldoIni = roundedMoney(valorMensal(rs[sini]), 2);
+        const Money saldoFin = roundedMoney(valorMensal(rs[sfin]), 2);
         Money debitos, creditos, previsto;
         if (!periodo) {
-            debitos = arredonda2(valorMensal(rs[colunaMes(QStringLiteral("vd"), mes)]));
-            creditos = arredonda2(valorMensal(rs[colunaMes(QStringLiteral("vc"), mes)]));
-            previsto = arredonda2(valorMensal(rs[colunaMes(QStringLiteral("po") + yy, mes)]));
+            debitos = roundedMoney(valorMensal(rs[colunaMes(QStringLiteral("vd"), mes)]), 2);
+            creditos = roundedMoney(valorMensal(rs[colunaMes(QStringLiteral("vc"), mes)]), 2);
+            previsto = roundedMoney(valorMensal(rs[colunaMes(QStringLiteral("po") + yy, mes)]), 2);
         } else {
             for (int m = mes; m <= ultimo; ++m) {
                 debitos += valorMensal(rs[colunaMes(QStringLiteral("vd"), m)]);

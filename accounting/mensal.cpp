@@ -14,11 +14,6 @@ Money valorMensal(const Field &field)
     return field.toMoney();
 }
 
-Money arredonda2(Money valor)
-{
-    return Money::fromDouble(Arredonda(valor, 2));
-}
-
 int valorMes(const QString &texto)
 {
     return int(val(texto));

@@ -14,10 +14,6 @@ QString colunaMes(const QString &prefixo, int mes);
 // the run stops here as the original did ("Uso inválido de Null").
 Money valorMensal(const Field &field);
 
-// The rounding step of every amount read: to the currency type, half up to
-// two places, back to the currency type.
-Money arredonda2(Money valor);
-
 // The value of a month number typed in a field ("3", "03", " 12"); 0 when
 // it holds no number.
 int valorMes(const QString &texto);

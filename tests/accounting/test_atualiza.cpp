@@ -13,21 +13,21 @@ QString S(const char *t) { return QString::fromUtf8(t); }
 // whose seven digits read "100000". One cent is gone.
 TEST(AtualizaFloat, SumsKeepSevenDigitsAndLoseCentsAbove99999)
 {
-    float total = acumulaSingle(0, reais("99999,99"));
+    float total = accumulateSingle(0, reais("99999,99"));
     EXPECT_EQ(total, 99999.9921875f);
-    total = acumulaSingle(total, reais("0,02"));
+    total = accumulateSingle(total, reais("0,02"));
     EXPECT_EQ(total, 100000.0078125f);
     EXPECT_EQ(textoSingle(total), S("100000"));
 
     // 123.456,78 is 123456.78125 as a float and is written "123456,8".
-    EXPECT_EQ(textoSingle(acumulaSingle(0, reais("123456,78"))), S("123456,8"));
+    EXPECT_EQ(textoSingle(accumulateSingle(0, reais("123456,78"))), S("123456,8"));
 
     // Below the limit the cents survive; each amount is rounded half up first.
-    float pequeno = acumulaSingle(0, reais("0,1"));
-    pequeno = acumulaSingle(pequeno, reais("0,2"));
+    float pequeno = accumulateSingle(0, reais("0,1"));
+    pequeno = accumulateSingle(pequeno, reais("0,2"));
     EXPECT_EQ(textoSingle(pequeno), S("0,3"));
-    EXPECT_EQ(textoSingle(acumulaSingle(0, reais("10,005"))), S("10,01"));
-    EXPECT_EQ(textoSingle(acumulaSingle(0, reais("-1234,5"))), S("-1234,5"));
+    EXPECT_EQ(textoSingle(accumulateSingle(0, reais("10,005"))), S("10,01"));
+    EXPECT_EQ(textoSingle(accumulateSingle(0, reais("-1234,5"))), S("-1234,5"));
     EXPECT_EQ(textoSingle(0.0f), S("0"));
 }
 
