@@ -85,6 +85,10 @@ public:
     // statement gives a closed one and the rows affected in *recordsAffected.
     Recordset Execute(const QString &sql, long *recordsAffected = nullptr);
 
+    // Creates a new database file with every table of the schema (used by
+    // tools/mkdb). An existing file is an error; it is never overwritten.
+    static void createFile(const QString &path);
+
     struct Impl;
     Impl *impl() const { return impl_.get(); }
 
@@ -99,7 +103,10 @@ public:
     Recordset(Recordset &&) noexcept;
     Recordset &operator=(Recordset &&) noexcept;
 
-    // Keyset open: all rows read, so that recordCount and moveFirst work.
+    // Keyset open (cursorType 1): recordCount gives the number of rows. A
+    // recordset from Connection::Execute is forward-only: recordCount is -1,
+    // as the original interface gave. Every recordset holds the rows as they
+    // were when the statement ran.
     void Open(const QString &sql, Connection &con, int cursorType = 1, int lockType = 2);
     void Close();
     int State() const;  // 1 open, 0 closed
@@ -114,6 +121,9 @@ public:
     const Field &operator[](const QString &column) const;
     const Field &field(const QString &column) const { return (*this)[column]; }
     QStringList columnNames() const;
+    // Field of the current row by position (0-based), for tools that list
+    // every column, where two tables may give one name.
+    const Field &fieldAt(int index) const;
 
     struct Impl;
 

@@ -1,0 +1,798 @@
+// The data store on SQLite. Statements are lexed, their shape looked up in a
+// per-connection cache of translated, prepared statements, and their literals
+// bound as parameters; so a loop of statements that differ only in values
+// parses and plans once. Results are read whole when the statement runs:
+// a recordset is a snapshot that the statements after it cannot disturb.
+#include "core/datastore.h"
+
+#include "core/conversions.h"
+#include "core/jetdialect.h"
+#include "core/schemacatalog.h"
+#include "core/val.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <cmath>
+#include <sqlite3.h>
+
+// ---- Errors ------------------------------------------------------------------
+
+DatabaseError::DatabaseError(const QString &message, const QString &statement)
+    : std::runtime_error((statement.isEmpty() ? message : message + QStringLiteral(" [") + statement + u']').toStdString()),
+      message_(message), statement_(statement)
+{
+}
+
+namespace {
+
+const QString kNoCurrentRecord = QStringLiteral(
+    "O BOF ou o EOF é True, ou o registro atual foi excluído. A operação solicitada requer um registro atual.");
+const QString kClosed = QStringLiteral("A operação não é permitida quando o objeto está fechado.");
+
+QString engineMessage(sqlite3 *db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
+
+bool isIsoDate(QStringView t)
+{
+    if (t.size() != 10 || t[4] != u'-' || t[7] != u'-')
+        return false;
+    for (int i : {0, 1, 2, 3, 5, 6, 8, 9})
+        if (t[i] < u'0' || t[i] > u'9')
+            return false;
+    return true;
+}
+
+QString columnText(sqlite3_stmt *st, int c)
+{
+    const auto *p = static_cast<const char16_t *>(sqlite3_column_text16(st, c));
+    const int bytes = sqlite3_column_bytes16(st, c);
+    return QString::fromUtf16(p, bytes / 2);
+}
+
+} // namespace
+
+// ---- Field -------------------------------------------------------------------
+
+QString Field::text() const
+{
+    if (value_.isNull())
+        return QString();
+    switch (value_.typeId()) {
+    case QMetaType::QString:
+        return value_.toString();
+    case QMetaType::QDate:
+        return value_.toDate().toString(QStringLiteral("dd/MM/yyyy"));
+    case QMetaType::Bool:
+        return value_.toBool() ? QStringLiteral("Verdadeiro") : QStringLiteral("Falso");
+    case QMetaType::LongLong:
+        return QString::number(value_.toLongLong());
+    case QMetaType::Double:
+        if (kind_ == ColumnKind::Money)
+            return moneyText(Money::fromDouble(value_.toDouble()));
+        return doubleText(value_.toDouble());
+    default:
+        return value_.toString();
+    }
+}
+
+double Field::toDouble() const
+{
+    if (value_.isNull())
+        return 0;
+    switch (value_.typeId()) {
+    case QMetaType::Double:
+        return value_.toDouble();
+    case QMetaType::LongLong:
+        return double(value_.toLongLong());
+    case QMetaType::Bool:
+        return value_.toBool() ? -1 : 0;  // True is -1, as in the original
+    case QMetaType::QDate:
+        return dateToDays(value_.toDate());
+    default:
+        // Text read as the screen writes numbers: decimal comma or point.
+        return jet::readNumberText(value_.toString()).value_or(0);
+    }
+}
+
+Money Field::toMoney() const { return Money::fromDouble(toDouble()); }
+
+qint64 Field::toInt() const
+{
+    if (value_.typeId() == QMetaType::LongLong)
+        return value_.toLongLong();
+    return qint64(std::nearbyint(toDouble()));  // half to even, as the original conversion
+}
+
+bool Field::toBool() const
+{
+    if (value_.isNull())
+        return false;
+    if (value_.typeId() == QMetaType::QString) {
+        const QString t = value_.toString().trimmed().toLower();
+        if (t == u"true" || t == u"verdadeiro" || t == u"sim")
+            return true;
+        if (t == u"false" || t == u"falso" || t.isEmpty())
+            return false;
+    }
+    return toDouble() != 0;
+}
+
+QDate Field::toDate() const
+{
+    if (value_.isNull())
+        return {};
+    if (value_.typeId() == QMetaType::QDate)
+        return value_.toDate();
+    if (value_.typeId() == QMetaType::QString)
+        return jet::readDateText(value_.toString());
+    return {};
+}
+
+// ---- Prepared statements and result columns -----------------------------------
+
+namespace {
+
+struct ColumnSet {
+    QStringList names;
+    QStringList origins;  // "table.column" of a plain column, empty for an expression
+    std::vector<std::optional<ColumnKind>> kinds;
+};
+
+struct Prepared {
+    sqlite3_stmt *stmt = nullptr;
+    std::vector<jet::ParamTarget> params;
+    std::shared_ptr<const ColumnSet> columns;
+    ~Prepared() { sqlite3_finalize(stmt); }
+};
+
+std::shared_ptr<const ColumnSet> describe(sqlite3_stmt *st)
+{
+    auto cols = std::make_shared<ColumnSet>();
+    const int n = sqlite3_column_count(st);
+    for (int c = 0; c < n; ++c) {
+        cols->names << QString::fromUtf8(sqlite3_column_name(st, c));
+        const char *table = sqlite3_column_table_name(st, c);
+        const char *origin = sqlite3_column_origin_name(st, c);
+        cols->origins << (table && origin ? QString::fromUtf8(table) + u'.' + QString::fromUtf8(origin) : QString());
+        bool known = false;
+        const ColumnKind k = SchemaCatalog::kindOfDeclaredType(sqlite3_column_decltype(st, c), &known);
+        cols->kinds.push_back(known ? std::optional<ColumnKind>(k) : std::nullopt);
+    }
+    return cols;
+}
+
+Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
+{
+    const int type = sqlite3_column_type(st, c);
+    if (type == SQLITE_NULL)
+        return Field(QVariant(), declared.value_or(ColumnKind::Text));
+    if (!declared) {
+        // An expression: its kind follows its value.
+        switch (type) {
+        case SQLITE_INTEGER:
+            return Field(QVariant(qint64(sqlite3_column_int64(st, c))), ColumnKind::Number);
+        case SQLITE_FLOAT:
+            return Field(QVariant(sqlite3_column_double(st, c)), ColumnKind::Number);
+        default: {
+            const QString t = columnText(st, c);
+            if (isIsoDate(t))
+                return Field(QVariant(QDate::fromString(t, Qt::ISODate)), ColumnKind::Date);
+            return Field(QVariant(t), ColumnKind::Text);
+        }
+        }
+    }
+    const ColumnKind kind = *declared;
+    switch (kind) {
+    case ColumnKind::Text:
+        return Field(QVariant(columnText(st, c)), kind);
+    case ColumnKind::Counter:
+        return Field(QVariant(qint64(sqlite3_column_int64(st, c))), kind);
+    case ColumnKind::Boolean:
+        if (type == SQLITE_TEXT)
+            break;
+        return Field(QVariant(sqlite3_column_double(st, c) != 0), kind);
+    case ColumnKind::Money:
+        if (type == SQLITE_TEXT)
+            break;
+        return Field(QVariant(Money::fromDouble(sqlite3_column_double(st, c)).toDouble()), kind);
+    case ColumnKind::Number:
+        if (type == SQLITE_INTEGER)
+            return Field(QVariant(qint64(sqlite3_column_int64(st, c))), kind);
+        if (type == SQLITE_FLOAT)
+            return Field(QVariant(sqlite3_column_double(st, c)), kind);
+        break;
+    case ColumnKind::Date: {
+        const QString t = columnText(st, c);
+        const QDate d = QDate::fromString(t, Qt::ISODate);
+        if (d.isValid())
+            return Field(QVariant(d), kind);
+        return Field(QVariant(t), kind);
+    }
+    }
+    // A value the column's kind does not hold (text left in a number column).
+    return Field(QVariant(columnText(st, c)), kind);
+}
+
+// ---- SQL functions of the dialect ---------------------------------------------
+
+QString argText(sqlite3_value *v)
+{
+    const auto *p = static_cast<const char16_t *>(sqlite3_value_text16(v));
+    return QString::fromUtf16(p, sqlite3_value_bytes16(v) / 2);
+}
+
+void resultText(sqlite3_context *ctx, const QString &s)
+{
+    sqlite3_result_text16(ctx, s.utf16(), int(s.size() * 2), SQLITE_TRANSIENT);
+}
+
+bool anyNull(int argc, sqlite3_value **argv)
+{
+    for (int i = 0; i < argc; ++i)
+        if (sqlite3_value_type(argv[i]) == SQLITE_NULL)
+            return true;
+    return false;
+}
+
+void fnVal(sqlite3_context *ctx, int, sqlite3_value **argv)
+{
+    switch (sqlite3_value_type(argv[0])) {
+    case SQLITE_NULL:
+        sqlite3_result_null(ctx);
+        return;
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+        sqlite3_result_double(ctx, sqlite3_value_double(argv[0]));
+        return;
+    default: {
+        const auto *p = reinterpret_cast<const char *>(sqlite3_value_text(argv[0]));
+        sqlite3_result_double(ctx, val(std::string_view(p, size_t(sqlite3_value_bytes(argv[0])))));
+    }
+    }
+}
+
+void fnLeft(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    resultText(ctx, argText(argv[0]).left(std::max(0, sqlite3_value_int(argv[1]))));
+}
+
+void fnRight(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    resultText(ctx, argText(argv[0]).right(std::max(0, sqlite3_value_int(argv[1]))));
+}
+
+void fnMid(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    const QString s = argText(argv[0]);
+    const int start = std::max(1, sqlite3_value_int(argv[1])) - 1;
+    resultText(ctx, argc > 2 ? s.mid(start, std::max(0, sqlite3_value_int(argv[2]))) : s.mid(start));
+}
+
+void fnRound(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    double v;
+    if (sqlite3_value_type(argv[0]) == SQLITE_TEXT) {
+        // Quoted text ('12,5' or '12.5') is read as the original engine read it.
+        const std::optional<double> d = jet::readNumberText(argText(argv[0]));
+        if (!d)
+            return sqlite3_result_error(ctx, "Tipo de dados incompatível na expressão de critério.", -1);
+        v = *d;
+    } else {
+        v = sqlite3_value_double(argv[0]);
+    }
+    const int places = argc > 1 ? sqlite3_value_int(argv[1]) : 0;
+    sqlite3_result_double(ctx, jet::roundHalfEven(v, places));
+}
+
+void fnIsNull(sqlite3_context *ctx, int, sqlite3_value **argv)
+{
+    sqlite3_result_int(ctx, sqlite3_value_type(argv[0]) == SQLITE_NULL ? 1 : 0);
+}
+
+void fnLen(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    sqlite3_result_int(ctx, int(argText(argv[0]).size()));
+}
+
+void fnUcase(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    resultText(ctx, argText(argv[0]).toUpper());
+}
+
+void fnLcase(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    resultText(ctx, argText(argv[0]).toLower());
+}
+
+template <int Part>
+void fnDatePart(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    const QDate d = QDate::fromString(argText(argv[0]).left(10), Qt::ISODate);
+    if (!d.isValid())
+        return sqlite3_result_error(ctx, "Tipo de dados incompatível na expressão de critério.", -1);
+    sqlite3_result_int(ctx, Part == 0 ? d.year() : Part == 1 ? d.month() : d.day());
+}
+
+void fnInt(sqlite3_context *ctx, int argc, sqlite3_value **argv)
+{
+    if (anyNull(argc, argv))
+        return sqlite3_result_null(ctx);
+    sqlite3_result_double(ctx, std::floor(sqlite3_value_double(argv[0])));
+}
+
+void registerFunctions(sqlite3 *db)
+{
+    struct Fn {
+        const char *name;
+        int args;
+        void (*fn)(sqlite3_context *, int, sqlite3_value **);
+    };
+    static const Fn fns[] = {{"val", 1, fnVal},         {"jet_left", 2, fnLeft},      {"jet_right", 2, fnRight},
+                             {"jet_round", 1, fnRound}, {"jet_round", 2, fnRound},    {"jet_isnull", 1, fnIsNull},
+                             {"mid", 2, fnMid},         {"mid", 3, fnMid},            {"len", 1, fnLen},
+                             {"ucase", 1, fnUcase},     {"lcase", 1, fnLcase},        {"year", 1, fnDatePart<0>},
+                             {"month", 1, fnDatePart<1>}, {"day", 1, fnDatePart<2>}, {"int", 1, fnInt}};
+    for (const Fn &f : fns)
+        sqlite3_create_function_v2(db, f.name, f.args, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, f.fn, nullptr,
+                                   nullptr, nullptr);
+}
+
+} // namespace
+
+// ---- Connection --------------------------------------------------------------
+
+struct Connection::Impl {
+    sqlite3 *db = nullptr;
+    QString path;
+    QHash<QString, std::shared_ptr<Prepared>> cache;
+    QHash<QString, std::vector<ColumnDef>> tableColumns;  // by lower-case name; empty: no such table
+    jet::Lexed lexed;
+
+    static constexpr int kCacheLimit = 400;
+
+    const std::vector<ColumnDef> *columnsOf(const QString &table)
+    {
+        const QString key = table.toLower();
+        auto it = tableColumns.find(key);
+        if (it == tableColumns.end()) {
+            std::vector<ColumnDef> cols;
+            sqlite3_stmt *st = nullptr;
+            if (sqlite3_prepare_v2(db, "SELECT name, type FROM pragma_table_info(?1)", -1, &st, nullptr) == SQLITE_OK) {
+                const QByteArray name = table.toUtf8();
+                sqlite3_bind_text(st, 1, name.constData(), int(name.size()), SQLITE_TRANSIENT);
+                while (sqlite3_step(st) == SQLITE_ROW)
+                    cols.push_back({QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st, 0))),
+                                    SchemaCatalog::kindOfDeclaredType(
+                                        reinterpret_cast<const char *>(sqlite3_column_text(st, 1)))});
+            }
+            sqlite3_finalize(st);
+            it = tableColumns.insert(key, std::move(cols));
+        }
+        return it->empty() ? nullptr : &*it;
+    }
+
+    void forgetSchema()
+    {
+        cache.clear();
+        tableColumns.clear();
+    }
+
+    [[noreturn]] void fail(const QString &statement) { throw DatabaseError(engineMessage(db), statement); }
+
+    std::shared_ptr<Prepared> prepare(const QString &sqliteText, const QString &statement)
+    {
+        auto p = std::make_shared<Prepared>();
+        if (sqlite3_prepare16_v3(db, sqliteText.utf16(), int(sqliteText.size() * 2), SQLITE_PREPARE_PERSISTENT,
+                                 &p->stmt, nullptr) != SQLITE_OK)
+            fail(statement);
+        if (!p->stmt)  // only a comment or blanks
+            throw DatabaseError(QStringLiteral("Instrução SQL inválida."), statement);
+        p->columns = describe(p->stmt);
+        return p;
+    }
+
+    void bind(Prepared &p, const QString &statement)
+    {
+        int index = 0;
+        for (const jet::Token &tok : lexed.tokens) {
+            if (!tok.param)
+                continue;
+            const jet::BoundValue v = jet::convert(tok, p.params[size_t(index)], statement);
+            ++index;
+            int rc = SQLITE_OK;
+            switch (v.type) {
+            case jet::BoundValue::Null:
+                rc = sqlite3_bind_null(p.stmt, index);
+                break;
+            case jet::BoundValue::Integer:
+                rc = sqlite3_bind_int64(p.stmt, index, v.i);
+                break;
+            case jet::BoundValue::Real:
+                rc = sqlite3_bind_double(p.stmt, index, v.d);
+                break;
+            case jet::BoundValue::Text:
+                if (!v.text.isNull())
+                    rc = sqlite3_bind_text16(p.stmt, index, v.text.utf16(), int(v.text.size() * 2), SQLITE_TRANSIENT);
+                else if (tok.text.isEmpty())
+                    rc = sqlite3_bind_text(p.stmt, index, "", 0, SQLITE_STATIC);
+                else  // the statement text outlives the run
+                    rc = sqlite3_bind_text16(p.stmt, index, tok.text.utf16(), int(tok.text.size() * 2), SQLITE_STATIC);
+                break;
+            }
+            if (rc != SQLITE_OK)
+                fail(statement);
+        }
+    }
+
+    // Runs a bound statement; rows go into rs when it returns any.
+    void run(Prepared &p, const QString &statement, Recordset::Impl *rs, long *affected);
+
+    void exec(const char *sql)
+    {
+        char *err = nullptr;
+        if (sqlite3_exec(db, sql, nullptr, nullptr, &err) != SQLITE_OK) {
+            const QString message = QString::fromUtf8(err ? err : "");
+            sqlite3_free(err);
+            throw DatabaseError(message, QString::fromUtf8(sql));
+        }
+    }
+
+    void execute(const QString &sql, Recordset::Impl *rs, long *affected);
+    void executeUncached(const jet::Translation &tr, const QString &sql, Recordset::Impl *rs, long *affected);
+};
+
+struct Recordset::Impl {
+    std::shared_ptr<const ColumnSet> columns;
+    std::vector<Field> cells;
+    size_t rows = 0;
+    size_t current = 0;
+    bool open = false;
+    bool keyset = false;
+
+    size_t width() const { return size_t(columns ? columns->names.size() : 0); }
+};
+
+void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Impl *rs, long *affected)
+{
+    sqlite3_stmt *st = p.stmt;
+    const int ncols = sqlite3_column_count(st);
+    if (ncols > 0 && rs) {
+        rs->columns = p.columns;
+        rs->cells.clear();
+        rs->rows = 0;
+        rs->current = 0;
+        const auto &kinds = p.columns->kinds;
+        int rc;
+        while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
+            for (int c = 0; c < ncols; ++c)
+                rs->cells.push_back(readField(st, c, kinds[size_t(c)]));
+            ++rs->rows;
+        }
+        if (rc != SQLITE_DONE) {
+            const QString message = engineMessage(db);
+            sqlite3_reset(st);
+            sqlite3_clear_bindings(st);
+            throw DatabaseError(message, statement);
+        }
+        rs->open = true;
+    } else {
+        int rc;
+        while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
+        }
+        if (rc != SQLITE_DONE) {
+            const QString message = engineMessage(db);
+            sqlite3_reset(st);
+            sqlite3_clear_bindings(st);
+            throw DatabaseError(message, statement);
+        }
+        if (affected)
+            *affected = ncols > 0 ? 0 : long(sqlite3_changes(db));
+    }
+    sqlite3_reset(st);
+    sqlite3_clear_bindings(st);
+}
+
+void Connection::Impl::execute(const QString &sql, Recordset::Impl *rs, long *affected)
+{
+    if (affected)
+        *affected = 0;
+    jet::lex(sql, lexed);
+    if (lexed.tokens.empty())
+        throw DatabaseError(QStringLiteral("Instrução SQL inválida."), sql);
+    if (lexed.cacheable) {
+        auto it = cache.constFind(lexed.key);
+        std::shared_ptr<Prepared> p;
+        if (it != cache.constEnd()) {
+            p = *it;
+        } else {
+            const jet::Translation tr =
+                jet::translate(lexed, [this](const QString &t) { return columnsOf(t); });
+            if (!tr.attachments.empty())
+                return executeUncached(tr, sql, rs, affected);
+            p = prepare(tr.sql, sql);
+            p->params = tr.params;
+            if (cache.size() >= kCacheLimit)
+                cache.clear();
+            cache.insert(lexed.key, p);
+        }
+        bind(*p, sql);
+        run(*p, sql, rs, affected);
+        return;
+    }
+    const jet::Translation tr = jet::translate(lexed, [this](const QString &t) { return columnsOf(t); });
+    executeUncached(tr, sql, rs, affected);
+}
+
+void Connection::Impl::executeUncached(const jet::Translation &tr, const QString &sql, Recordset::Impl *rs,
+                                       long *affected)
+{
+    QString text = tr.sql;
+    // Files named by IN '<file>' are attached for this statement only. A
+    // missing file is an error: attaching would create it.
+    std::vector<QString> attached;
+    auto detachAll = [&] {
+        for (const QString &alias : attached) {
+            const QByteArray s = QStringLiteral("DETACH DATABASE %1").arg(alias).toUtf8();
+            sqlite3_exec(db, s.constData(), nullptr, nullptr, nullptr);
+        }
+    };
+    try {
+        for (const jet::Attachment &a : tr.attachments) {
+            if (!QFileInfo(a.path).isFile())
+                throw DatabaseError(QStringLiteral("Não foi possível encontrar o arquivo '%1'.").arg(a.path), sql);
+            sqlite3_stmt *st = nullptr;
+            const QByteArray s = QStringLiteral("ATTACH DATABASE ?1 AS %1").arg(a.alias).toUtf8();
+            if (sqlite3_prepare_v2(db, s.constData(), -1, &st, nullptr) != SQLITE_OK)
+                fail(sql);
+            const QByteArray path = a.path.toUtf8();
+            sqlite3_bind_text(st, 1, path.constData(), int(path.size()), SQLITE_TRANSIENT);
+            const int rc = sqlite3_step(st);
+            sqlite3_finalize(st);
+            if (rc != SQLITE_DONE)
+                fail(sql);
+            attached.push_back(a.alias);
+        }
+        if (tr.copyAll) {
+            // Rows are matched to the destination by column name; a source
+            // column the destination lacks stops the copy before it starts.
+            const std::vector<ColumnDef> *dest = columnsOf(tr.copyTable);
+            if (!dest)
+                throw DatabaseError(QStringLiteral("A tabela '%1' não existe.").arg(tr.copyTable), sql);
+            QStringList names;
+            sqlite3_stmt *st = nullptr;
+            const QByteArray q = QStringLiteral("SELECT name FROM %1.pragma_table_info(?1)").arg(tr.copySourceAlias).toUtf8();
+            if (sqlite3_prepare_v2(db, q.constData(), -1, &st, nullptr) != SQLITE_OK)
+                fail(sql);
+            const QByteArray t = tr.copySourceTable.toUtf8();
+            sqlite3_bind_text(st, 1, t.constData(), int(t.size()), SQLITE_TRANSIENT);
+            while (sqlite3_step(st) == SQLITE_ROW)
+                names << QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)));
+            sqlite3_finalize(st);
+            if (names.isEmpty())
+                throw DatabaseError(QStringLiteral("A tabela '%1' não existe no arquivo de origem.").arg(tr.copySourceTable), sql);
+            for (const QString &n : names) {
+                bool found = false;
+                for (const ColumnDef &c : *dest)
+                    found = found || c.name.compare(n, Qt::CaseInsensitive) == 0;
+                if (!found)
+                    throw DatabaseError(QStringLiteral("O campo '%1' não existe na tabela de destino '%2'.").arg(n, tr.copyTable), sql);
+            }
+            const QString list = names.join(u',');
+            const qsizetype from = text.indexOf(QStringLiteral("FROM"), 0, Qt::CaseInsensitive);
+            const qsizetype after = text.indexOf(tr.copySourceAlias + u'.', from);
+            const qsizetype tableEnd = after + tr.copySourceAlias.size() + 1 + tr.copySourceTable.size();
+            text = QStringLiteral("INSERT INTO main.%1 (%2) SELECT %2 FROM %3.%4%5")
+                       .arg(tr.copyTable, list, tr.copySourceAlias, tr.copySourceTable, text.mid(tableEnd));
+        }
+        Prepared p;
+        if (sqlite3_prepare16_v2(db, text.utf16(), int(text.size() * 2), &p.stmt, nullptr) != SQLITE_OK)
+            fail(sql);
+        if (!p.stmt)
+            throw DatabaseError(QStringLiteral("Instrução SQL inválida."), sql);
+        p.columns = describe(p.stmt);
+        p.params = tr.params;
+        bind(p, sql);
+        run(p, sql, rs, affected);
+    } catch (...) {
+        detachAll();
+        throw;
+    }
+    detachAll();
+    if (tr.changesSchema)
+        forgetSchema();
+}
+
+Connection::Connection() : impl_(std::make_unique<Impl>()) {}
+
+Connection::~Connection() { Close(); }
+
+void Connection::Open(const QString &connectionString)
+{
+    if (impl_->db)
+        throw DatabaseError(QStringLiteral("A operação não é permitida quando o objeto está aberto."), connectionString);
+    const QString key = QStringLiteral("Data Source=");
+    const qsizetype at = connectionString.indexOf(key, 0, Qt::CaseInsensitive);
+    if (at < 0)
+        throw DatabaseError(QStringLiteral("Cadeia de conexão sem 'Data Source'."), connectionString);
+    QString path = connectionString.mid(at + key.size());
+    const qsizetype semi = path.indexOf(u';');
+    if (semi >= 0)
+        path.truncate(semi);
+    path = path.trimmed();
+    if (path.isEmpty() || !QFileInfo(path).isFile())
+        throw DatabaseError(QStringLiteral("Não foi possível encontrar o arquivo '%1'.").arg(path), connectionString);
+
+    sqlite3 *db = nullptr;
+    const QByteArray p = path.toUtf8();
+    if (sqlite3_open_v2(p.constData(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+        const QString message = db ? engineMessage(db) : QStringLiteral("Falha ao abrir o arquivo.");
+        sqlite3_close(db);
+        throw DatabaseError(message, connectionString);
+    }
+    // Double-quoted text is always a literal of the dialect, never a column.
+    sqlite3_db_config(db, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(db, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_busy_timeout(db, ConnectionTimeout * 1000);
+    impl_->db = db;
+    impl_->path = path;
+    try {
+        impl_->exec("PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL");
+    } catch (const DatabaseError &e) {
+        Close();
+        throw DatabaseError(e.message(), connectionString);
+    }
+    registerFunctions(db);
+}
+
+void Connection::Close()
+{
+    if (!impl_->db)
+        return;
+    impl_->forgetSchema();  // finalizes the cached statements
+    // The last connection to close checkpoints the journal into the file and
+    // removes it, so that a closed file is one plain file.
+    sqlite3_close_v2(impl_->db);
+    impl_->db = nullptr;
+    impl_->path.clear();
+}
+
+int Connection::State() const { return impl_->db ? 1 : 0; }
+
+QString Connection::filePath() const { return impl_->path; }
+
+Recordset Connection::Execute(const QString &sql, long *recordsAffected)
+{
+    if (!impl_->db)
+        throw DatabaseError(kClosed, sql);
+    Recordset rs;
+    impl_->execute(sql, rs.impl_.get(), recordsAffected);
+    return rs;
+}
+
+void Connection::createFile(const QString &path)
+{
+    if (QFileInfo::exists(path))
+        throw DatabaseError(QStringLiteral("O arquivo '%1' já existe.").arg(path), QString());
+    sqlite3 *db = nullptr;
+    const QByteArray p = path.toUtf8();
+    if (sqlite3_open_v2(p.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK) {
+        const QString message = db ? engineMessage(db) : QStringLiteral("Falha ao criar o arquivo.");
+        sqlite3_close(db);
+        throw DatabaseError(message, path);
+    }
+    QStringList statements{QStringLiteral("PRAGMA journal_mode=WAL"), QStringLiteral("BEGIN")};
+    statements << SchemaCatalog::instance().createStatements() << QStringLiteral("COMMIT");
+    for (const QString &s : statements) {
+        char *err = nullptr;
+        if (sqlite3_exec(db, s.toUtf8().constData(), nullptr, nullptr, &err) != SQLITE_OK) {
+            const QString message = QString::fromUtf8(err ? err : "");
+            sqlite3_free(err);
+            sqlite3_close(db);
+            throw DatabaseError(message, s);
+        }
+    }
+    sqlite3_close(db);
+}
+
+// ---- Recordset ---------------------------------------------------------------
+
+Recordset::Recordset() : impl_(std::make_unique<Impl>()) {}
+Recordset::~Recordset() = default;
+Recordset::Recordset(Recordset &&) noexcept = default;
+Recordset &Recordset::operator=(Recordset &&) noexcept = default;
+
+void Recordset::Open(const QString &sql, Connection &con, int cursorType, int lockType)
+{
+    if (!con.impl()->db)
+        throw DatabaseError(kClosed, sql);
+    Close();
+    con.impl()->execute(sql, impl_.get(), nullptr);
+    impl_->keyset = cursorType != 0;
+}
+
+void Recordset::Close()
+{
+    impl_->open = false;
+    impl_->keyset = false;
+    impl_->cells.clear();
+    impl_->rows = 0;
+    impl_->current = 0;
+    impl_->columns.reset();
+}
+
+int Recordset::State() const { return impl_->open ? 1 : 0; }
+
+bool Recordset::eof() const
+{
+    if (!impl_->open)
+        throw DatabaseError(kClosed, QString());
+    return impl_->current >= impl_->rows;
+}
+
+void Recordset::moveNext()
+{
+    if (eof())
+        throw DatabaseError(kNoCurrentRecord, QString());
+    ++impl_->current;
+}
+
+void Recordset::moveFirst()
+{
+    if (!impl_->open)
+        throw DatabaseError(kClosed, QString());
+    impl_->current = 0;
+}
+
+long Recordset::recordCount() const
+{
+    if (!impl_->open)
+        throw DatabaseError(kClosed, QString());
+    return impl_->keyset ? long(impl_->rows) : -1;
+}
+
+const Field &Recordset::operator[](const QString &column) const
+{
+    if (eof())
+        throw DatabaseError(kNoCurrentRecord, column);
+    const ColumnSet &cols = *impl_->columns;
+    qsizetype index = -1;
+    for (qsizetype c = 0; c < cols.names.size() && index < 0; ++c)
+        if (cols.names[c].compare(column, Qt::CaseInsensitive) == 0)
+            index = c;
+    // "Aptos.nome" names the column of that table where two tables give one name.
+    if (index < 0 && column.contains(u'.'))
+        for (qsizetype c = 0; c < cols.origins.size() && index < 0; ++c)
+            if (cols.origins[c].compare(column, Qt::CaseInsensitive) == 0)
+                index = c;
+    if (index < 0)
+        throw DatabaseError(
+            QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), column);
+    return impl_->cells[impl_->current * impl_->width() + size_t(index)];
+}
+
+QStringList Recordset::columnNames() const { return impl_->columns ? impl_->columns->names : QStringList(); }
+
+const Field &Recordset::fieldAt(int index) const
+{
+    if (eof())
+        throw DatabaseError(kNoCurrentRecord, QString());
+    if (index < 0 || size_t(index) >= impl_->width())
+        throw DatabaseError(
+            QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), QString());
+    return impl_->cells[impl_->current * impl_->width() + size_t(index)];
+}
