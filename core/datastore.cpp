@@ -378,7 +378,8 @@ struct Connection::Impl {
                 while (sqlite3_step(st) == SQLITE_ROW)
                     cols.push_back({QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st, 0))),
                                     SchemaCatalog::kindOfDeclaredType(
-                                        reinterpret_cast<const char *>(sqlite3_column_text(st, 1)))});
+                                        reinterpret_cast<const char *>(sqlite3_column_text(st, 1))),
+                                    QString()});
             }
             sqlite3_finalize(st);
             it = tableColumns.insert(key, std::move(cols));
@@ -477,6 +478,7 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
         rs->rows = 0;
         rs->current = 0;
         const auto &kinds = p.columns->kinds;
+        rs->cells.reserve(size_t(ncols));
         int rc;
         while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
             for (int c = 0; c < ncols; ++c)
@@ -639,7 +641,8 @@ void Connection::Open(const QString &connectionString)
 
     sqlite3 *db = nullptr;
     const QByteArray p = path.toUtf8();
-    if (sqlite3_open_v2(p.constData(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+    // A connection belongs to one thread: SQLite's own locking of it is not needed.
+    if (sqlite3_open_v2(p.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         const QString message = db ? engineMessage(db) : QStringLiteral("Falha ao abrir o arquivo.");
         sqlite3_close(db);
         throw DatabaseError(message, connectionString);

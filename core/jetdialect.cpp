@@ -463,11 +463,12 @@ private:
                     }
                 }
                 if (!(k > 0 && isOp(t_[k - 1], u".")) && !isOp(at(k + 1), u".")) {
-                    if (is(tok, QLatin1StringView("TRUE"))) {
+                    // A boolean field concatenated into a statement gives the Portuguese words.
+                    if (is(tok, QLatin1StringView("TRUE")) || is(tok, QLatin1StringView("VERDADEIRO"))) {
                         put(u"1");
                         break;
                     }
-                    if (is(tok, QLatin1StringView("FALSE"))) {
+                    if (is(tok, QLatin1StringView("FALSE")) || is(tok, QLatin1StringView("FALSO"))) {
                         put(u"0");
                         break;
                     }

@@ -94,15 +94,22 @@ SchemaCatalog SchemaCatalog::parse(const QString &text)
             }
             continue;
         }
+        // NAME ... KIND [default VALUE]
+        QStringList names = words;
+        QString defaultValue;
+        if (names.size() >= 4 && names[names.size() - 2] == u"default") {
+            defaultValue = names.last();
+            names.resize(names.size() - 2);
+        }
         ColumnKind kind;
-        if (current.empty() || words.size() < 2 || !kindFromWord(words.last(), kind))
+        if (current.empty() || names.size() < 2 || !kindFromWord(names.last(), kind))
             throw std::runtime_error("schema: linha de colunas malformada: " + std::to_string(n + 1));
-        for (int w = 0; w + 1 < words.size(); ++w)
-            for (const QString &name : expand(words[w], n + 1))
+        for (int w = 0; w + 1 < names.size(); ++w)
+            for (const QString &name : expand(names[w], n + 1))
                 for (TableDef &t : current) {
                     if (t.column(name))
                         throw std::runtime_error("schema: coluna repetida " + name.toStdString());
-                    t.columns.push_back({name, kind});
+                    t.columns.push_back({name, kind, defaultValue});
                 }
     }
     flush();
@@ -170,7 +177,9 @@ QStringList SchemaCatalog::createStatements() const
                 def += QStringLiteral(" COLLATE NOCASE");
             else if (c.kind == ColumnKind::Counter)
                 def += QStringLiteral(" PRIMARY KEY AUTOINCREMENT");
-            else if (c.kind != ColumnKind::Date)
+            if (!c.defaultValue.isEmpty())
+                def += QStringLiteral(" DEFAULT ") + c.defaultValue;
+            else if (c.kind != ColumnKind::Date && c.kind != ColumnKind::Text && c.kind != ColumnKind::Counter)
                 def += QStringLiteral(" DEFAULT 0");  // numbers and Yes/No start at 0, as in the original files
             cols << def;
         }

@@ -11,6 +11,7 @@
 struct ColumnDef {
     QString name;
     ColumnKind kind = ColumnKind::Text;
+    QString defaultValue;  // SQL literal; empty: 0 for numbers and Yes/No, Null otherwise
 };
 
 struct TableDef {

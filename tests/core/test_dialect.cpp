@@ -228,3 +228,50 @@ TEST_F(Dialect, CopyBetweenFilesMatchesColumnsByName)
                  DatabaseError);
     EXPECT_FALSE(QFile::exists(dir.file("Con777.mdb")));
 }
+
+TEST_F(Dialect, ListsRangesOrderNumbersAndBooleanWords)
+{
+    for (const char *d : {"05/01/2004", "20/01/2004", "10/02/2004"})
+        exec(QStringLiteral("INSERT INTO Mov04 (datalan,ctadeb,ctacre,vlrlan) VALUES ('%1',\"01.001\",\"07.001\",'1')").arg(d));
+    EXPECT_EQ(one("SELECT Count(codauto) As I FROM Mov04 WHERE datalan BETWEEN '01/01/2004' AND '31/01/2004'").toInt(), 2);
+    EXPECT_EQ(one("SELECT Count(codauto) As I FROM Mov04 WHERE datalan IN ('05/01/2004', '10/02/2004')").toInt(), 2);
+    EXPECT_EQ(one("SELECT Count(codauto) As I FROM Mov04 WHERE vlrlan IN ('1,0', '2')").toInt(), 3);
+    // A number of ORDER BY names a column.
+    EXPECT_EQ(one("SELECT nome, codigo FROM Eventos ORDER BY 2 DESC").text(), "Abatimento");
+    // A boolean field concatenated in Portuguese still reads as a boolean.
+    exec("INSERT INTO RBalancete(codigo,nome,tipo,classe,sintetico,sini) VALUES ('01.',\"RECEITAS\",'R','O',Verdadeiro,'1.234,5')");
+    EXPECT_TRUE(one("SELECT sintetico FROM RBalancete").toBool());
+    EXPECT_EQ(one("SELECT sini FROM RBalancete").toDouble(), 1234.5);
+    // The statement row keeps codigo = 1 after the forms delete and insert it.
+    exec("DELETE FROM RBalRec");
+    exec("INSERT INTO RBalRec(mesbase,modelo,nlinhas,titulo,LinAdic1,LinAdic2,LinAdic3,LinAdic4,arqtexto,arqway) "
+         "VALUES(#03/2004#,'1',40,\"Demonstrativo\",\"\",\"\",\"\",\"\",True,\"/tmp/x.txt\")");
+    EXPECT_EQ(exec("UPDATE rBalRec SET arqway = '/tmp/y.txt', Titulo = 'Novo' Where codigo = 1"), 1);
+    Recordset rs = con.Execute("SELECT * FROM RbalRec");
+    EXPECT_EQ(rs["mesbase"].toDate(), QDate(2004, 3, 1));
+    EXPECT_TRUE(rs["arqtexto"].toBool());
+    EXPECT_EQ(rs["titulo"].text(), "Novo");
+}
+
+TEST_F(Dialect, ALoopOfOneShapeReadsEachStatementsOwnValues)
+{
+    // One shape, many values: the cached statement must bind each time anew.
+    for (int i = 1; i <= 50; ++i)
+        exec(QStringLiteral("INSERT INTO Aptos (codigo,nome,honor,demis) VALUES ('%1',\"Nome %2\",'%2,25','%3/01/2004')")
+                 .arg(i, 6, 10, QLatin1Char('0'))
+                 .arg(i)
+                 .arg(i % 28 + 1, 2, 10, QLatin1Char('0')));
+    for (int i : {1, 17, 50}) {
+        Recordset rs = con.Execute(QStringLiteral("SELECT * FROM Aptos WHERE codigo = '%1'").arg(i, 6, 10, QLatin1Char('0')));
+        ASSERT_FALSE(rs.eof());
+        EXPECT_EQ(rs["nome"].text(), QStringLiteral("Nome %1").arg(i));
+        EXPECT_EQ(rs["honor"].toMoney(), Money::fromUnits(i * 10000 + 2500));
+        EXPECT_EQ(rs["demis"].toDate(), QDate(2004, 1, i % 28 + 1));
+    }
+    // The same shape with an empty text, an apostrophe and a quote.
+    exec("UPDATE Aptos SET nome = \"\" WHERE codigo = '000001'");
+    exec("UPDATE Aptos SET nome = \"O'Hara \"\"Jr\"\"\" WHERE codigo = '000002'");
+    EXPECT_EQ(one("SELECT nome FROM Aptos WHERE codigo = '000001'").text(), "");
+    EXPECT_FALSE(one("SELECT nome FROM Aptos WHERE codigo = '000001'").isNull());
+    EXPECT_EQ(one("SELECT nome FROM Aptos WHERE codigo = '000002'").text(), "O'Hara \"Jr\"");
+}

@@ -1,4 +1,6 @@
 #include "core/conversions.h"
+#include "core/datastore.h"
+#include "support/fixtures.h"
 #include "support/scriptedprompter.h"
 
 #include <gtest/gtest.h>
@@ -74,4 +76,16 @@ TEST(Embaralha, SumAbove32767AndCodesAbove255AreFailures)
 
     // Place 2 plus code 255 is no character.
     EXPECT_THROW(EmbaralhaAdm(QStringLiteral("ÿÿ")), RunFailure);
+}
+
+TEST(ValidaUF, FindsTheStateInTheSystemFile)
+{
+    TempProgramDir dir;
+    dir.useInSession();
+    EXPECT_TRUE(ValidaUF(QStringLiteral("SP")));
+    EXPECT_TRUE(ValidaUF(QStringLiteral("AC")));
+    EXPECT_FALSE(ValidaUF(QStringLiteral("XX")));
+    EXPECT_FALSE(ValidaUF(QString()));
+    // A quote breaks the statement: a database failure, never a silent false.
+    EXPECT_THROW(ValidaUF(QStringLiteral("S'P")), DatabaseError);
 }

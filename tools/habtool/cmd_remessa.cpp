@@ -1,0 +1,100 @@
+// habtool remessa FILE OUT: the remittance run (cmdGerarR) on a condominium
+// file, with the bank parameters of its Parametros row.
+#include "tools/habtool/habtool.h"
+
+#include "banks/calcbarra.h"
+#include "banks/remessa.h"
+#include "core/conversions.h"
+#include "core/datastore.h"
+#include "core/prompter.h"
+#include "core/session.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMap>
+
+namespace {
+int uso()
+{
+    err(QStringLiteral("uso: habtool remessa ARQUIVO SAIDA [--select \"SQL\"] [--data dd/mm/aaaa] [--inquilino] [--sim]"));
+    return 2;
+}
+
+int cmdRemessa(const QStringList &args)
+{
+    QStringList posicionais;
+    QMap<QString, QString> opcoes;
+    bool inquilino = false, sim = false;
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString &a = args[i];
+        if (a == u"--select" || a == u"--data") {
+            if (i + 1 >= args.size())
+                return uso();
+            opcoes[a] = args[++i];
+        } else if (a == u"--inquilino") {
+            inquilino = true;
+        } else if (a == u"--sim") {
+            sim = true;
+        } else if (a.startsWith(u"--")) {
+            return uso();
+        } else {
+            posicionais << a;
+        }
+    }
+    if (posicionais.size() != 2)
+        return uso();
+    QDate data = QDate::currentDate();
+    if (opcoes.contains(QStringLiteral("--data"))) {
+        if (!isDateText(opcoes[QStringLiteral("--data")])) {
+            err(QStringLiteral("data inválida: ") + opcoes[QStringLiteral("--data")]);
+            return 2;
+        }
+        data = dateFromText(opcoes[QStringLiteral("--data")]);
+    }
+    const QFileInfo arquivo(posicionais[0]);
+    if (!arquivo.exists()) {
+        err(QStringLiteral("arquivo não encontrado: ") + arquivo.absoluteFilePath());
+        return 2;
+    }
+    Connection con;
+    con.Open(connectionString(arquivo.absolutePath() + QStringLiteral("/"), arquivo.fileName(), QString()));
+
+    const ParametrosGravados g = leParametrosBanco(con);
+    FormRemessa form;
+    form.dados.parametros = parametrosDoForm(g);
+    form.dados.cedenteNome = g.ritaucd;
+    form.dados.cgc = g.ritaucgc.trimmed().isEmpty() ? kCgcVazio : g.ritaucgc;
+    form.dados.cpf = g.ritaucpf.trimmed().isEmpty() ? kCpfVazio : g.ritaucpf;
+    form.dados.especie = g.ritauesp;
+    form.dados.instrucao1 = g.ritaui1;
+    form.dados.instrucao2 = g.ritaui2;
+    form.dados.dataGeracao = data;
+    form.nnr = g.ritaunn;
+    form.inquilino = inquilino;
+    form.selecao = opcoes.value(QStringLiteral("--select"), selecaoPadraoBanco());
+    // The run writes folder "/" name ".TXT": OUT names the file, with or without ".TXT".
+    const QFileInfo saida(posicionais[1]);
+    form.pasta = QDir::cleanPath(saida.absolutePath());
+    form.nomeArquivo = saida.fileName();
+    if (form.nomeArquivo.endsWith(QStringLiteral(".TXT")))
+        form.nomeArquivo.chop(4);
+
+    HeadlessPrompter respostas;
+    respostas.yesToAll = sim;
+    Prompter *anterior = setPrompter(&respostas);
+    FimRemessa fim;
+    try {
+        fim = cmdGerarR(con, form);
+    } catch (...) {
+        setPrompter(anterior);
+        throw;
+    }
+    setPrompter(anterior);
+    con.Close();
+    return fim == FimRemessa::Gerado ? 0 : 1;
+}
+
+const bool registered = registerCommand(
+    "remessa", "ARQUIVO SAIDA [--select \"SQL\"] [--data dd/mm/aaaa] [--inquilino] [--sim]",
+    "gera o arquivo remessa dos bancos 341, 422 e 151 (Gerar Remessa)", cmdRemessa);
+} // namespace
