@@ -107,3 +107,18 @@ TEST(CalcBarraRun, StopsAndMessages)
     for (const char *codigo : {"000001", "000002", "000003"})
         EXPECT_EQ(file.coluna(QString::fromLatin1(codigo), QStringLiteral("barrabco")), QString()) << codigo;
 }
+
+// A saved empty bank code passes the occurrence test and has no rule: the
+// receipts get the working fields as they stand, with a fresh factor.
+TEST(CalcBarraRun, EmptyBankCodeWritesTheWorkingFields)
+{
+    BankFile file;
+    fill(file);
+    ScriptedPrompter prompts;
+    FormCalcBarra f = form(QString(), QString(), QStringLiteral("___"));
+    f.trabalho.nrbco = QStringLiteral("anterior");
+    EXPECT_EQ(cmdCalcBarraG(file.con, f), FimCalcBarra::Calculado);
+    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")), QStringLiteral("anterior"));
+    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("codbco")), QString());
+    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("barrabco")).left(1), QStringLiteral("9"));
+}
