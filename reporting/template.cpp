@@ -298,8 +298,11 @@ void Parser::parseBand(const std::vector<Token> &tokens)
             break;
         }
         const auto [key, value] = option(tokens[i]);
-        if (key == QLatin1String("height"))
+        if (key == QLatin1String("height")) {
             b.height = number(Token{value, false}, "height");
+            if (b.height < 0)
+                fail(QStringLiteral("height não pode ser negativa"));
+        }
         else
             fail(QStringLiteral("opção desconhecida em band: \"%1\"").arg(tokens[i].text));
     }

@@ -1,5 +1,10 @@
 #include "reporting/template.h"
 
+#include "reporting/renderer.h"
+#include "support/fixtures.h"
+
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -147,6 +152,7 @@ TEST(ReportTemplate, ErrorsNameTheFileAndTheLine)
         QStringLiteral("band detail height=5\n text 0 0 5 5 \"x\" sparkle\nend\n"),
         QStringLiteral("band detail height=5\n text 0 0 5 5 \"{}\"\nend\n"),
         QStringLiteral("band sidebar height=5\nend\n"),
+        QStringLiteral("band detail height=-5\nend\n"),
     };
     for (const QString &text : broken) {
         const QString e = errorOf(text);
@@ -164,4 +170,25 @@ TEST(ReportTemplate, ErrorsNameTheFileAndTheLine)
     } catch (const TemplateError &e) {
         EXPECT_TRUE(e.message().contains(QStringLiteral("Sumiu.rpt")));
     }
+}
+
+TEST(ReportTemplate, TheExampleOfTheDocumentationParsesAndPrints)
+{
+    QFile f(sourceDir() + QStringLiteral("docs/report-templates.md"));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QString doc = QString::fromUtf8(f.readAll());
+    const qsizetype section = doc.indexOf(QStringLiteral("## A complete example"));
+    ASSERT_GE(section, 0);
+    const qsizetype start = doc.indexOf(QStringLiteral("```\n"), section) + 4;
+    const qsizetype end = doc.indexOf(QStringLiteral("```"), start);
+    const ReportTemplate t = parseTemplate(doc.mid(start, end - start), QStringLiteral("Exemplo.rpt"));
+    ReportData d;
+    d.columns = {QStringLiteral("bloco"), QStringLiteral("codgrupo"), QStringLiteral("descri"), QStringLiteral("valor")};
+    d.rows = {{"A", "01", "Garagem", "10,5"}, {"A", "02", "Salão", ""}, {"B", "03", "Portaria", "4"}};
+    const ReportDocument r = renderReport(t, d);
+    QStringList texts;
+    for (const DrawOp &op : r.pages[0].ops)
+        texts << op.text;
+    EXPECT_TRUE(texts.contains(QStringLiteral("2 itens no bloco A: 10,50")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("Total: 3 itens, R$ 14,50")));
 }

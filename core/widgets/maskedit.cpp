@@ -1,0 +1,31 @@
+#include "core/widgets/maskedit.h"
+
+#include "core/conversions.h"
+
+MaskEdit::MaskEdit(QWidget *parent) : QLineEdit(parent) {}
+
+void MaskEdit::setMascara(const QString &mascara)
+{
+    mascara_ = mascara;
+    QString qtMask;
+    for (QChar c : mascara) {
+        if (c == QLatin1Char('#'))
+            qtMask += QLatin1Char('0');  // a digit, optional
+        else if (QStringLiteral("09AaNnXx<>!\\[]{}").contains(c))
+            qtMask += QLatin1Char('\\') + c;  // a literal that Qt would read as a mask character
+        else
+            qtMask += c;
+    }
+    setInputMask(qtMask + QStringLiteral(";_"));
+}
+
+QString MaskEdit::textoMascarado() const { return inputMask().isEmpty() ? text() : displayText(); }
+
+QString MaskEdit::textoPuro() const { return bareText(textoMascarado()); }
+
+QString MaskEdit::textoVazio() const
+{
+    QString empty = mascara_;
+    empty.replace(QLatin1Char('#'), QLatin1Char('_'));
+    return empty;
+}
