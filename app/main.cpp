@@ -6,6 +6,7 @@
 #include "core/forms/mdiHabitarium.h"
 #include "core/widgets/messageboxprompter.h"
 #include "core/widgets/modal.h"
+#include "reporting/forms/frmRelatorio.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -45,6 +46,7 @@ int main(int argc, char **argv)
     registerAllForms();
 
     mdiHabitarium mdi;
+    installReportViewer(mdi.area());  // every print opens in the main window's preview
     try {
         mdi.Carrega(QCoreApplication::applicationDirPath());
     } catch (...) {

@@ -9,6 +9,7 @@
 #include "core/prompter.h"
 #include "core/session.h"
 #include "core/widgets/modal.h"
+#include "reporting/forms/frmRelatorio.h"
 
 #include <QApplication>
 #include <QDir>
@@ -78,6 +79,7 @@ int main(int argc, char **argv)
 
     mdiHabitarium mdi;
     mdi.resize(1280, 800);
+    installReportViewer(mdi.area());
     setModalHandler([&](QDialog &d) {
         if (d.objectName() == QLatin1String("frmSenha")) {
             photographDialog(d);

@@ -1,0 +1,52 @@
+// frmTTipAp's own statements: the coefficient with a decimal comma, the key padded.
+#include "support/fixtures.h"
+#include "support/scriptedprompter.h"
+
+#include "core/datastore.h"
+#include "core/session.h"
+#include "core/widgets/maskedit.h"
+#include "registers/forms/frmTTipAp.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <gtest/gtest.h>
+
+TEST(TiposDeApartamento, SavedWithTheCoefficientAndPaddedCode)
+{
+    TempProgramDir dir;
+    dir.makeCondominium(1);
+    dir.useInSession(1);
+    ScriptedPrompter p;
+    frmTTipAp form;
+    auto *codigo = form.findChild<MaskEdit *>(QStringLiteral("mskCodigo"));
+    auto *descri = form.findChild<QLineEdit *>(QStringLiteral("txtDescri"));
+    auto *rateio = form.findChild<QLineEdit *>(QStringLiteral("txtRateio"));
+    p.answer(vbYes, QStringLiteral("Código Não Cadastrado, Incluir Novo ?"));
+    codigo->setText(QStringLiteral("7"));
+    form.mskCodigo_LostFocus();
+    ASSERT_EQ(form.modo(), 3);
+    descri->setText(QStringLiteral("Cobertura"));
+    rateio->setText(QStringLiteral("1,75"));
+    form.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
+
+    Connection cn;
+    cn.Open(session.conAtiva);
+    Recordset rs = cn.Execute(QStringLiteral("SELECT codigo,descri,rateio FROM TpAp"));
+    ASSERT_FALSE(rs.eof());
+    EXPECT_EQ(rs[QStringLiteral("codigo")].text(), QStringLiteral("07"));
+    EXPECT_EQ(rs[QStringLiteral("descri")].text(), QStringLiteral("Cobertura"));
+    EXPECT_DOUBLE_EQ(rs[QStringLiteral("rateio")].toDouble(), 1.75);
+    cn.Close();
+
+    // Loaded again, changed, and the grid follows.
+    codigo->setText(QStringLiteral("07"));
+    form.mskCodigo_LostFocus();
+    EXPECT_EQ(form.modo(), 2);
+    EXPECT_EQ(rateio->text(), QStringLiteral("1,75"));
+    rateio->setText(QStringLiteral("2"));
+    form.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
+    auto *grade = form.findChild<QTableWidget *>(QStringLiteral("tdbGrade"));
+    ASSERT_EQ(grade->rowCount(), 1);
+    EXPECT_EQ(grade->item(0, 2)->text(), QStringLiteral("2"));
+}
