@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include <limits>
+
 // ---- Pieces shared by the layouts -------------------------------------------
 
 QString campoTexto(const QString &text, int width)
@@ -114,6 +116,15 @@ void escreveLinha(QFile &file, const QString &record)
         throw RunFailure(QStringLiteral("Erro de gravação no arquivo ") + file.fileName());
 }
 
+// The sequence and the count are 16-bit: one more past 32767 stops the run
+// rather than write a negative sequence into the file.
+void sobe16(int16_t &n)
+{
+    if (n == std::numeric_limits<int16_t>::max())
+        throw RunFailure(QStringLiteral("Estouro"));
+    ++n;
+}
+
 QString header(const DadosRemessa &d, int16_t sequencia)
 {
     const QString &banco = d.parametros.banco;
@@ -188,7 +199,7 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
     form.contagem = 0;
     form.sequencia = 1;
     escreveLinha(file, header(d, form.sequencia));
-    ++form.sequencia;
+    sobe16(form.sequencia);
 
     for (; !rs.eof(); rs.moveNext()) {
         const ReciboBanco r{rs["codigo"].text(), rs["vtotal"].toMoney(), rs["dvencto"].toDate()};
@@ -209,9 +220,9 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
         // Wallet "XX" numbers the receipt and writes no record.
         if (banco == u"341" || carteira != u"XX") {
             escreveLinha(file, detalhe(d, r, form.trabalho, s, form.sequencia));
-            ++form.sequencia;
+            sobe16(form.sequencia);
         }
-        ++form.contagem;
+        sobe16(form.contagem);
         ++contador;
     }
 

@@ -37,8 +37,9 @@ QString detalhe151(const DadosRemessa &d, const ReciboBanco &r, const Boleto &b,
         + QStringLiteral("01") + r.codigo + blanks(4) + ddmmyy(r.dvencto) + valorRemessa(r.vtotal)
         + QStringLiteral("0000000 ") + especieRemessa(d.especie) + QStringLiteral("N") + ddmmyy(d.dataGeracao)
         + instrucaoRemessa(d.instrucao1) + instrucaoRemessa(d.instrucao2) + zeros(13) + QStringLiteral("999999")
-        + zeros(39) + tipoSacado + numeroSacado(s, 14) + campoTexto(s.nome, 37) + s.cep.right(3) + enderecoRemessa(s)
-        + empresa + s.cep.left(5) + campoTexto(s.cidade, 15) + campoTexto(s.uf, 2) + blanks(40) + QStringLiteral("990")
+        + zeros(39) + tipoSacado + numeroSacado(s, 14) + campoTexto(s.nome, 37) + campoTexto(s.cep.right(3), 3)
+        + enderecoRemessa(s) + empresa + campoTexto(s.cep.left(5), 5) + campoTexto(s.cidade, 15)
+        + campoTexto(s.uf, 2) + blanks(40) + QStringLiteral("990")
         + sequenciaRemessa(sequencia);
     return SemAcento(record);
 }

@@ -334,6 +334,13 @@ TEST(Remessa151, HeaderAndDetail)
     EXPECT_EQ(pos(r, 352, 391), blanks(40));
     EXPECT_EQ(pos(r, 392, 394), QStringLiteral("990"));
     EXPECT_EQ(pos(r, 395, 400), QStringLiteral("000002"));
+    // Both halves of an empty postal code are blanks: the record keeps its 400.
+    Sacado semCep = sacado();
+    semCep.cep.clear();
+    const QString rSemCep = detalhe151(d, recibo, b, semCep, 2);
+    ASSERT_EQ(rSemCep.size(), 400);
+    EXPECT_EQ(pos(rSemCep, 272, 274), blanks(3));
+    EXPECT_EQ(pos(rSemCep, 330, 334), blanks(5));
 
     // Wallet 02, company with CNPJ: the number is in 63-70 and 108 is "1".
     d.parametros.carteira = QStringLiteral("02_");
