@@ -135,16 +135,27 @@ void lex(QStringView sql, Lexed &out)
     // ORDER BY / GROUP BY (a bound number there would not name a column) and
     // the file of IN '<file>' stay in the text.
     bool byClause = false;
+    bool setClause = false;
     out.key.reserve(sql.size() + 8);
     for (size_t k = 0; k < tokens.size(); ++k) {
         Token &t = tokens[k];
         if (t.type == TokenType::Identifier && is(t, QLatin1StringView("BY")) && k > 0 &&
             (is(tokens[k - 1], QLatin1StringView("ORDER")) || is(tokens[k - 1], QLatin1StringView("GROUP"))))
             byClause = true;
+        if (t.type == TokenType::Identifier && is(t, QLatin1StringView("SET")))
+            setClause = true;
+        if (t.type == TokenType::Identifier && is(t, QLatin1StringView("WHERE")))
+            setClause = false;
         if (out.cacheable && isLiteral(t)) {
             const bool fileName = t.type == TokenType::Text && k > 0 && is(tokens[k - 1], QLatin1StringView("IN"));
             const bool byNumber = t.type == TokenType::Number && byClause;
-            t.param = !fileName && !byNumber;
+            // An empty text compared with a column is no number and no date:
+            // it stays text, so that "not diavcto = ''" holds for every day
+            // that is there. Written by SET it still means Null.
+            const bool emptyCompared = t.type == TokenType::Text && t.text.isEmpty() && !setClause && k > 0 &&
+                                       tokens[k - 1].type == TokenType::Operator &&
+                                       (tokens[k - 1].text == u"=" || tokens[k - 1].text == u"<>");
+            t.param = !fileName && !byNumber && !emptyCompared;
         }
         if (k > 0)
             out.key += u' ';

@@ -38,6 +38,7 @@ struct Session {
     // The statement buffer: the monthly statement's lines for the slips.
     std::array<QString, 122> demonstrativo{};
     int16_t linhasDemonstrativo = 0;
+    QString arqway;             // path of the chosen statement text file (frmGAbre_Arq)
 };
 
 extern Session session;

@@ -33,12 +33,12 @@ namespace {
 // has the same size on every device.
 constexpr double kUnits = 100.0;
 
-QFont makeFont(const FontSpec &spec)
+QFont makeFont(const FontSpec &wanted)
 {
-    QFont f(spec.family);
-    f.setPixelSize(std::max(1, qRound(spec.size * 25.4 / 72.0 * kUnits)));
-    f.setBold(spec.bold);
-    f.setItalic(spec.italic);
+    QFont f(wanted.family);
+    f.setPixelSize(std::max(1, qRound(wanted.size * 25.4 / 72.0 * kUnits)));
+    f.setBold(wanted.bold);
+    f.setItalic(wanted.italic);
     f.setHintingPreference(QFont::PreferNoHinting);
     // Any letter spacing switches ligatures off, so that "fi" stays two letters
     // when the PDF is searched or copied. A fiftieth of a hundredth of a mm.
@@ -88,7 +88,7 @@ private:
     QString resolve(const TextPart &part, int group);
     QString resolveText(const std::vector<TextPart> &parts, int group);
     bool holds(const Condition &c, int group);
-    int fontIndex(const FontSpec &spec);
+    int fontIndex(const FontSpec &wanted);
     std::vector<Prepared> prepare(const Band &band, double &height);
     void put(const std::vector<Prepared> &items, double left, double top);
     void place(const Band *band, double keepWith = 0);
@@ -203,13 +203,13 @@ bool Layout::holds(const Condition &c, int group)
     return true;
 }
 
-int Layout::fontIndex(const FontSpec &spec)
+int Layout::fontIndex(const FontSpec &wanted)
 {
     for (size_t i = 0; i < doc_.fonts.size(); ++i)
-        if (doc_.fonts[i] == spec)
+        if (doc_.fonts[i] == wanted)
             return int(i);
-    doc_.fonts.push_back(spec);
-    fonts_.push_back(makeFont(spec));
+    doc_.fonts.push_back(wanted);
+    fonts_.push_back(makeFont(wanted));
     return int(doc_.fonts.size() - 1);
 }
 

@@ -1,0 +1,132 @@
+#include "accounting/balancete.h"
+#include "contabil.h"
+#include "support/scriptedprompter.h"
+
+namespace {
+QString S(const char *t) { return QString::fromUtf8(t); }
+} // namespace
+
+class Balancete : public Contabil {
+protected:
+    void SetUp() override
+    {
+        Contabil::SetUp();
+        planoPadrao();
+        // Amounts with four places, so that the rounding shows.
+        poe(S("01.001"), S("sf02"), S("-100,005"));
+        poe(S("01.001"), S("sf03"), S("-1200,011"));
+        poe(S("01.001"), S("vc03"), S("1100,006"));
+        poe(S("01.001"), S("vc04"), S("300,004"));
+        poe(S("01.001"), S("vc05"), S("0,0049"));
+        poe(S("01.001"), S("po0803"), S("1000"));
+        poe(S("01.001"), S("po0804"), S("900"));
+        poe(S("01.001"), S("po0805"), S("800"));
+        poe(S("01.001"), S("sf05"), S("-9999"));
+    }
+    Money rb(const char *codigo, const char *coluna) { return valor(S("RBalancete"), S(codigo), S(coluna)); }
+    Money rp(const char *codigo, const char *coluna) { return valor(S("RPcontas"), S(codigo), S(coluna)); }
+};
+
+TEST_F(Balancete, MonthIsRoundedPeriodIsNotAndBalancesComeFromTheFirstMonth)
+{
+    ASSERT_TRUE(EncheRBalancete(con, S("3"), QString(), false, S("2008")));
+    EXPECT_EQ(linhas(S("SELECT * FROM RBalancete")), 9);
+    EXPECT_EQ(rb("01.001", "sini"), reais("-100"));     // -100,005 rounds up at the tie
+    EXPECT_EQ(rb("01.001", "sfin"), reais("-1200,01"));
+    EXPECT_EQ(rb("01.001", "vcre"), reais("1100,01"));
+    EXPECT_EQ(rb("01.001", "vdeb"), Money());
+    EXPECT_EQ(rb("01.001", "spct"), reais("-1100,01"));  // raw debit-positive sign
+    EXPECT_EQ(rb("01.001", "spo"), reais("1000"));
+    Recordset rs = con.Execute(S("SELECT * FROM RBalancete WHERE codigo = '01.'"));
+    EXPECT_TRUE(rs[S("sintetico")].toBool());
+    EXPECT_EQ(rs[S("nome")].text(), S("RECEITAS"));
+    EXPECT_EQ(rs[S("tipo")].text(), S("R"));
+
+    // A period of March to May: movement summed unrounded, sini and sfin
+    // still those of March.
+    ASSERT_TRUE(EncheRBalancete(con, S("3"), S("5"), true, S("2008")));
+    EXPECT_EQ(linhas(S("SELECT * FROM RBalancete")), 9);
+    EXPECT_EQ(rb("01.001", "vcre"), reais("1400,0149"));
+    EXPECT_EQ(rb("01.001", "spct"), reais("-1400,0149"));
+    EXPECT_EQ(rb("01.001", "spo"), reais("2700"));
+    EXPECT_EQ(rb("01.001", "sini"), reais("-100"));
+    EXPECT_EQ(rb("01.001", "sfin"), reais("-1200,01"));
+
+    // A period of one month: the monthly figures, unrounded.
+    ASSERT_TRUE(EncheRBalancete(con, S("3"), S("3"), true, S("2008")));
+    EXPECT_EQ(rb("01.001", "vcre"), reais("1100,006"));
+}
+
+TEST_F(Balancete, MontaBalanceteGivesTheFormsMonthlyRows)
+{
+    ASSERT_TRUE(EncheRBalancete(con, S("03"), QString(), false, S("2008")));
+    std::vector<QStringList> doForm;
+    for (Recordset rs = con.Execute(S("SELECT * FROM RBalancete ORDER BY codigo")); !rs.eof(); rs.moveNext())
+        doForm.push_back({rs[S("codigo")].text(), rs[S("sini")].text(), rs[S("vdeb")].text(), rs[S("vcre")].text(),
+                          rs[S("sfin")].text(), rs[S("spct")].text(), rs[S("spo")].text()});
+
+    Monta_Balancete(S("3"), S("2008"));  // its own connection, on conAtiva
+    std::vector<QStringList> daRotina;
+    for (Recordset rs = con.Execute(S("SELECT * FROM RBalancete ORDER BY codigo")); !rs.eof(); rs.moveNext())
+        daRotina.push_back({rs[S("codigo")].text(), rs[S("sini")].text(), rs[S("vdeb")].text(), rs[S("vcre")].text(),
+                            rs[S("sfin")].text(), rs[S("spct")].text(), rs[S("spo")].text()});
+    EXPECT_EQ(daRotina, doForm);
+
+    // A month below 1 does nothing; the table keeps its rows.
+    Monta_Balancete(S("0"), S("2008"));
+    EXPECT_EQ(linhas(S("SELECT * FROM RBalancete")), 9);
+}
+
+TEST_F(Balancete, EmptyChartLeavesTheTableEmptyAndOnlyTheFormSaysSo)
+{
+    ASSERT_TRUE(EncheRBalancete(con, S("3"), QString(), false, S("2008")));
+    con.Execute(S("DELETE FROM Plano"));
+    {
+        ScriptedPrompter p;
+        Monta_Balancete(con, S("3"), S("2008"));
+        EXPECT_TRUE(p.calls.empty());
+        EXPECT_EQ(linhas(S("SELECT * FROM RBalancete")), 0);
+    }
+    ScriptedPrompter p;
+    EXPECT_FALSE(EncheRBalancete(con, S("3"), QString(), false, S("2008")));
+    ASSERT_EQ(p.calls.size(), 1u);
+    EXPECT_EQ(p.last().text, kSemMovimento);
+    EXPECT_EQ(p.last().title, S("Atenção..."));
+    EXPECT_EQ(p.last().style, int(vbCritical));
+}
+
+TEST_F(Balancete, RPcontasTurnsRevenueAndAddsCashOnlyWhenAsked)
+{
+    poe(S("01."), S("sf03"), S("-5000"));
+    poe(S("01."), S("vc03"), S("999"));         // synthetic: spct and spo stay zero
+    poe(S("01.002"), S("sf03"), S("50"));       // revenue with a debit balance
+    poe(S("01.002"), S("vd03"), S("80"));
+    poe(S("01.002"), S("vc03"), S("30"));
+    poe(S("02.001"), S("sf03"), S("300"));
+    poe(S("02.001"), S("vd03"), S("300,5"));
+    poe(S("02.001"), S("vc03"), S("0,5"));
+    poe(S("02.002"), S("sf03"), S("-20"));
+    poe(S("03.001"), S("sf02"), S("1000"));
+    poe(S("03.001"), S("sf03"), S("1500"));
+
+    EncheRPcontas(con, S("3"), S("2008"), false);
+    EXPECT_EQ(linhas(S("SELECT * FROM RPcontas")), 6);
+    EXPECT_EQ(linhas(S("SELECT * FROM RPcontas WHERE tipo = 'C'")), 0);
+    EXPECT_EQ(rp("01.001", "spct"), reais("1100,006"));  // credits over debits: positive
+    EXPECT_EQ(rp("01.001", "sfin"), reais("1200,011"));  // sign dropped, not rounded
+    EXPECT_EQ(rp("01.001", "spo"), reais("1000"));
+    EXPECT_EQ(rp("01.", "spct"), Money());
+    EXPECT_EQ(rp("01.", "sfin"), reais("5000"));
+    EXPECT_EQ(rp("01.002", "spct"), reais("-50"));
+    EXPECT_EQ(rp("01.002", "sfin"), reais("50"));
+    EXPECT_EQ(rp("02.001", "spct"), reais("300"));       // expenses keep their sign
+    EXPECT_EQ(rp("02.002", "sfin"), reais("-20"));
+    // Revenue 1.050,006 rounded by the database, less 300 of expenses.
+    EXPECT_EQ(ResultadoPctEspecial(con), reais("750,01"));
+
+    EncheRPcontas(con, S("3"), S("2008"), true);
+    EXPECT_EQ(linhas(S("SELECT * FROM RPcontas")), 8);   // 03. and 03.001; 09. is not cash
+    EXPECT_EQ(rp("03.001", "sini"), reais("1000"));
+    EXPECT_EQ(rp("03.001", "sfin"), reais("1500"));
+    EXPECT_EQ(rp("03.", "spct"), Money());
+}

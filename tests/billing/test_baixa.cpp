@@ -1,0 +1,219 @@
+#include "billing/baixa.h"
+#include "billing/direitos.h"
+#include "condominio.h"
+#include "core/conversions.h"
+#include "support/scriptedprompter.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kRecibo = QStringLiteral("SELECT * FROM Recibos WHERE codigo = '000101'");
+
+// A receipt of 350.00 (H) and 20.00 (R) with a bank slip, and three users:
+// Caixa settles only; Outro alters and deletes but doesn't settle; Gerente
+// has every right and the code that undoes settlements.
+struct ComRecibo : Condominio {
+    ComRecibo()
+    {
+        apto(1, QStringLiteral("Ana"), 350);
+        con.Execute(QStringLiteral(
+            "INSERT INTO Recibos (codigo,codap,nemis,demis,dvencto,Tipcob,Tipbolbco,situacao,nrbco,"
+            "item0,comp0,refer0,valor0,item1,comp1,refer1,valor1,vtoth,vtotr,vtott,vtotd,vtotal,Usubx,valido,codbco) "
+            "VALUES('000101','000001',\"0203\",'05/02/2003','10/02/2003','1','','A','12345',"
+            "'001','Fev','0','350','020','','0','20','350','20','0','0','370','',0,'341')"));
+        usuario(5, QStringLiteral("Caixa"), true, false, false);
+        usuario(8, QStringLiteral("Outro"), false, true, true);
+        usuario(kCodigoDesfazBaixa, QStringLiteral("Gerente"), true, true, true);
+    }
+};
+
+} // namespace
+
+TEST(Direitos, ReadFromUsuariosAtTheMomentOfTheAct)
+{
+    ComRecibo c;
+    EXPECT_TRUE(temDireito(QStringLiteral("Cfbai"), QStringLiteral("Caixa")));
+    EXPECT_FALSE(temDireito(QStringLiteral("Cfalt"), QStringLiteral("Caixa")));
+    EXPECT_FALSE(temDireito(QStringLiteral("Cfbai"), QStringLiteral("Ninguém")));
+    // A right taken away counts at once.
+    Connection sistema;
+    sistema.Open(session.conSistema);
+    sistema.Execute(QStringLiteral("UPDATE Usuarios SET cfbai = False WHERE nome = 'Caixa'"));
+    sistema.Close();
+    EXPECT_FALSE(temDireito(QStringLiteral("Cfbai"), QStringLiteral("Caixa")));
+}
+
+TEST(Baixa, SettlingWritesOnlyTheStamp)
+{
+    ComRecibo c;
+    EXPECT_EQ(sqlBaixa(QStringLiteral("000101"), QStringLiteral("15/03/2003"), QStringLiteral("Caixa"), 38282),
+              QStringLiteral("Update Recibos Set situacao = 'B',drecbto = '15/03/2003',Usubx = 'Caixa',"
+                             "valido = '38282' Where codigo = '000101'"));
+    ScriptedPrompter prompt;
+    // The date as it was: nothing asked.
+    EXPECT_EQ(baixaRecibo(c.con, QStringLiteral("000101"), kEmptyDate, kEmptyDate, QStringLiteral("1"),
+                          QStringLiteral("Caixa")).resultado,
+              ResultadoBaixa::SemMudanca);
+    // No: the original date goes back.
+    prompt.answer(vbNo, QStringLiteral("Deseja Realmente Baixar Este Recibo  ?"));
+    EXPECT_EQ(baixaRecibo(c.con, QStringLiteral("000101"), kEmptyDate, QStringLiteral("15/03/2003"), QStringLiteral("1"),
+                          QStringLiteral("Caixa")).resultado,
+              ResultadoBaixa::Restaurar);
+    // Findings: no date (the field was cleared) and no place of collection.
+    prompt.answer(vbYes);
+    const Baixa semDados = baixaRecibo(c.con, QStringLiteral("000101"), QStringLiteral("01/03/2003"), kEmptyDate,
+                                       QString(), QStringLiteral("Caixa"));
+    EXPECT_EQ(semDados.resultado, ResultadoBaixa::ComErros);
+    ASSERT_EQ(semDados.erros.size(), 2u);
+    EXPECT_EQ(semDados.erros[0].mensagem, kMsgBaixaSemData);
+    EXPECT_EQ(semDados.erros[1].mensagem, kMsgBaixaSemCobranca);
+    EXPECT_EQ(c.valor(kRecibo, "situacao"), QStringLiteral("A"));
+
+    prompt.answer(vbYes);
+    const Baixa b = baixaRecibo(c.con, QStringLiteral("000101"), kEmptyDate, QStringLiteral("15/03/2003"),
+                                QStringLiteral("1"), QStringLiteral("Caixa"));
+    EXPECT_EQ(b.resultado, ResultadoBaixa::Baixado);
+    EXPECT_EQ(b.valido, 101 + 37695 + 486);
+    EXPECT_EQ(c.valor(kRecibo, "situacao"), QStringLiteral("B"));
+    EXPECT_EQ(c.valor(kRecibo, "drecbto"), QStringLiteral("15/03/2003"));
+    EXPECT_EQ(c.valor(kRecibo, "Usubx"), QStringLiteral("Caixa"));
+    EXPECT_EQ(c.valor(kRecibo, "valido"), QStringLiteral("38282"));
+    // Items, totals and bank marks stay.
+    EXPECT_EQ(c.dinheiro(kRecibo, "vtotal"), reais(370));
+    EXPECT_EQ(c.valor(kRecibo, "nrbco"), QStringLiteral("12345"));
+    EXPECT_EQ(c.valor(kRecibo, "codbco"), QStringLiteral("341"));
+}
+
+TEST(Baixa, SettleButNotAlterRights)
+{
+    ComRecibo c;
+    ScriptedPrompter prompt;
+    // Outro may alter but not settle.
+    prompt.answer(vbYes);
+    EXPECT_EQ(baixaRecibo(c.con, QStringLiteral("000101"), kEmptyDate, QStringLiteral("15/03/2003"), QStringLiteral("1"),
+                          QStringLiteral("Outro")).resultado,
+              ResultadoBaixa::Restaurar);
+    EXPECT_EQ(prompt.last().text, kMsgBaixaSemDireito);
+    EXPECT_EQ(c.valor(kRecibo, "situacao"), QStringLiteral("A"));
+
+    // Caixa settles, and then cannot alter.
+    prompt.answer(vbYes);
+    EXPECT_EQ(baixaRecibo(c.con, QStringLiteral("000101"), kEmptyDate, QStringLiteral("15/03/2003"), QStringLiteral("1"),
+                          QStringLiteral("Caixa")).resultado,
+              ResultadoBaixa::Baixado);
+    ReciboEditado r;
+    ASSERT_TRUE(leReciboEditado(c.con, QStringLiteral("000101"), &r));
+    r.linhas[0].valor = QStringLiteral("400");
+    prompt.answer(vbYes, QStringLiteral("Deseja Realmente Alterar Este Registro ?"));
+    const Alteracao a = alteraRecibo(c.con, r, QStringLiteral("Caixa"), 5);
+    EXPECT_FALSE(a.gravado);
+    EXPECT_EQ(prompt.last().text, kMsgAlteraSemDireito);
+    EXPECT_EQ(c.dinheiro(kRecibo, "valor0"), reais(350));
+    // Nor delete.
+    prompt.answer(vbYes, QStringLiteral("Deseja Realmente Excluir Este Registro ?"));
+    EXPECT_FALSE(excluiRecibo(c.con, QStringLiteral("000101"), QStringLiteral("Caixa")));
+    EXPECT_EQ(prompt.last().text, kMsgExcluiSemDireito);
+}
+
+TEST(Alteracao, StatementWithTenSlotsAndTotalsByTheRule)
+{
+    ComRecibo c;
+    ReciboEditado r;
+    ASSERT_TRUE(leReciboEditado(c.con, QStringLiteral("000101"), &r));
+    EXPECT_EQ(r.demis, QStringLiteral("05/02/2003"));
+    EXPECT_EQ(r.drecbto, kEmptyDate);
+    ASSERT_EQ(r.linhas.size(), 2u);
+
+    const std::vector<ItemRecibo> itens{{"001", "Fev", 0, reais(350)}, {"030", "", 1.5, reais(-10)}};
+    TotaisRecibo t;
+    t.vtoth = reais(350);
+    t.vtotd = reais(-10);
+    t.vtotal = reais(340);
+    EXPECT_EQ(sqlAltera(r, itens, t),
+              QStringLiteral("Update Recibos Set codap = '000001',nemis = \"0203\",demis = '05/02/2003',obs1 = \"\","
+                             "obs2 = \"\",dvencto = '10/02/2003',Tipcob = '1',Tipbolbco = '',nrbco = '12345',"
+                             "item0 = '001',comp0 = \"Fev\",refer0 = '0',valor0 = '350',"
+                             "item1 = '030',comp1 = \"\",refer1 = '1,5',valor1 = '-10',"
+                             "item2 = ' ',comp2 = ' ',refer2 = 0,valor2 = 0,item3 = ' ',comp3 = ' ',refer3 = 0,valor3 = 0,"
+                             "item4 = ' ',comp4 = ' ',refer4 = 0,valor4 = 0,item5 = ' ',comp5 = ' ',refer5 = 0,valor5 = 0,"
+                             "item6 = ' ',comp6 = ' ',refer6 = 0,valor6 = 0,item7 = ' ',comp7 = ' ',refer7 = 0,valor7 = 0,"
+                             "item8 = ' ',comp8 = ' ',refer8 = 0,valor8 = 0,item9 = ' ',comp9 = ' ',refer9 = 0,valor9 = 0,"
+                             "vtoth = '350',vtotr = '0',vtott = '0',vtotd = '-10',vtotal = '340' Where codigo = '000101'"));
+
+    // Replace the fine with a discount; a row of 0.00 disappears.
+    r.linhas[1] = {QStringLiteral("030"), QStringLiteral("Pontualidade"), QStringLiteral(" "), QStringLiteral("-10,00")};
+    r.linhas.push_back({QStringLiteral("010"), QString(), QString(), QStringLiteral("0,00")});
+    r.dvencto = QStringLiteral("20/02/2003");
+    ScriptedPrompter prompt;
+    prompt.answer(vbYes);
+    const Alteracao a = alteraRecibo(c.con, r, QStringLiteral("Outro"), 8);
+    EXPECT_TRUE(a.gravado);
+    EXPECT_EQ(c.valor(kRecibo, "dvencto"), QStringLiteral("20/02/2003"));
+    EXPECT_EQ(c.valor(kRecibo, "comp1"), QStringLiteral("Pontualidade"));
+    EXPECT_EQ(c.dinheiro(kRecibo, "vtotd"), reais(-10));
+    EXPECT_EQ(c.dinheiro(kRecibo, "vtotr"), Money());
+    EXPECT_EQ(c.dinheiro(kRecibo, "vtotal"), reais(340));
+    EXPECT_EQ(c.valor(kRecibo, "item2"), QStringLiteral(" "));
+    EXPECT_EQ(c.dinheiro(kRecibo, "valor2"), Money());
+    // The bank marks stay even though the amount changed.
+    EXPECT_EQ(c.valor(kRecibo, "codbco"), QStringLiteral("341"));
+
+    // The faults stop the save.
+    r.linhas.clear();
+    r.dvencto = kEmptyDate;
+    prompt.answer(vbYes);
+    const Alteracao semItens = alteraRecibo(c.con, r, QStringLiteral("Outro"), 8);
+    EXPECT_FALSE(semItens.gravado);
+    ASSERT_EQ(semItens.erros.size(), 2u);
+    EXPECT_EQ(semItens.erros[0].mensagem, kMsgSemItens);
+    EXPECT_EQ(semItens.erros[1].mensagem, kMsgSemVencimento);
+}
+
+TEST(Alteracao, OnlyCode731UndoesASettlement)
+{
+    ComRecibo c;
+    ScriptedPrompter prompt;
+    prompt.answer(vbYes);
+    ASSERT_EQ(baixaRecibo(c.con, QStringLiteral("000101"), kEmptyDate, QStringLiteral("15/03/2003"), QStringLiteral("1"),
+                          QStringLiteral("Caixa")).resultado,
+              ResultadoBaixa::Baixado);
+
+    // Another user clears the date and saves: the items are saved, the settlement stays.
+    ReciboEditado r;
+    ASSERT_TRUE(leReciboEditado(c.con, QStringLiteral("000101"), &r));
+    EXPECT_EQ(r.drecbto, QStringLiteral("15/03/2003"));
+    r.drecbto = kEmptyDate;
+    r.obs1 = QStringLiteral("Conferido");
+    prompt.answer(vbYes);
+    Alteracao a = alteraRecibo(c.con, r, QStringLiteral("Outro"), 8);
+    EXPECT_TRUE(a.gravado);
+    EXPECT_FALSE(a.baixaDesfeita);
+    EXPECT_EQ(c.valor(kRecibo, "obs1"), QStringLiteral("Conferido"));
+    EXPECT_EQ(c.valor(kRecibo, "situacao"), QStringLiteral("B"));
+    EXPECT_EQ(c.valor(kRecibo, "drecbto"), QStringLiteral("15/03/2003"));
+
+    EXPECT_EQ(sqlDesfazBaixa(QStringLiteral("000101")),
+              QStringLiteral("Update Recibos Set situacao = 'A',drecbto = null,Usubx = '',valido = 0 Where codigo = '000101'"));
+    prompt.answer(vbYes);
+    a = alteraRecibo(c.con, r, QStringLiteral("Gerente"), kCodigoDesfazBaixa);
+    EXPECT_TRUE(a.baixaDesfeita);
+    EXPECT_EQ(c.valor(kRecibo, "situacao"), QStringLiteral("A"));
+    EXPECT_TRUE(c.valor(kRecibo, "drecbto").isEmpty());
+    EXPECT_EQ(c.valor(kRecibo, "Usubx"), QString());
+    EXPECT_EQ(c.valor(kRecibo, "valido"), QStringLiteral("0"));
+}
+
+TEST(Exclusao, DeleteNeedsTheRightAndKeepsTheMarks)
+{
+    ComRecibo c;
+    c.con.Execute(QStringLiteral("UPDATE Aptos SET nrecibo = '000101' WHERE codigo = '000001'"));
+    ScriptedPrompter prompt;
+    prompt.answer(vbNo);
+    EXPECT_FALSE(excluiRecibo(c.con, QStringLiteral("000101"), QStringLiteral("Outro")));
+    prompt.answer(vbYes);
+    EXPECT_TRUE(excluiRecibo(c.con, QStringLiteral("000101"), QStringLiteral("Outro")));
+    EXPECT_EQ(c.valor(kRecibo, "codigo"), QStringLiteral("<nenhum>"));
+    EXPECT_EQ(c.valor(QStringLiteral("SELECT nrecibo FROM Aptos WHERE codigo = '000001'"), "nrecibo"),
+              QStringLiteral("000101"));
+}

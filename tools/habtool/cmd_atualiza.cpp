@@ -1,0 +1,34 @@
+// habtool atualiza FILE mm/yyyy: the balance update for a base month.
+#include "accounting/atualiza.h"
+#include "core/datastore.h"
+#include "core/session.h"
+#include "tools/habtool/habtool.h"
+
+#include <QFileInfo>
+
+namespace {
+
+int cmdAtualiza(const QStringList &args)
+{
+    if (args.size() != 2) {
+        err(QStringLiteral("uso: habtool atualiza ARQUIVO mm/aaaa"));
+        return 2;
+    }
+    const QFileInfo arquivo(args.at(0));
+    Connection con;
+    con.ConnectionTimeout = 100;
+    con.Open(connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString()));
+    QString ultimo;
+    AtualizaSaldos(con, args.at(1), [&](const Progress &p) {
+        if (p.text != ultimo && !p.text.isEmpty())
+            out(p.text);
+        ultimo = p.text;
+    });
+    con.Close();
+    return 0;
+}
+
+[[maybe_unused]] const bool registered = registerCommand("atualiza", "ARQUIVO mm/aaaa",
+                                        "atualização de saldos do mês base até dezembro (Plano)", cmdAtualiza);
+
+} // namespace

@@ -1,0 +1,40 @@
+// habtool demonstrativo FILE MODELO MES ANO: Monta_Balancete for the month,
+// then Monta_Demonstrativo; prints the statement buffer.
+#include "accounting/balancete.h"
+#include "banks/demonstrativo.h"
+#include "core/datastore.h"
+#include "core/session.h"
+#include "core/val.h"
+#include "tools/habtool/habtool.h"
+
+#include <QFileInfo>
+
+namespace {
+
+int cmdDemonstrativo(const QStringList &args)
+{
+    if (args.size() != 4 || (args.at(1) != QStringLiteral("1") && args.at(1) != QStringLiteral("2")) ||
+        val(args.at(2)) < 1 || val(args.at(2)) > 12) {
+        err(QStringLiteral("uso: habtool demonstrativo ARQUIVO MODELO MES ANO   (modelo 1 ou 2, mês de 1 a 12)"));
+        return 2;
+    }
+    const QFileInfo arquivo(args.at(0));
+    session.conAtiva = connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString());
+    Monta_Balancete(args.at(2), args.at(3));
+
+    Connection con;
+    con.ConnectionTimeout = 100;
+    con.Open(session.conAtiva);
+    TotaisDemonstrativo totais;
+    Monta_Demonstrativo(con, totais, args.at(1).toInt(), args.at(2), args.at(3));
+    con.Close();
+    for (int i = 0; i < session.linhasDemonstrativo; ++i)
+        out(session.demonstrativo[size_t(i)]);
+    return 0;
+}
+
+[[maybe_unused]] const bool registered = registerCommand("demonstrativo", "ARQUIVO MODELO MES ANO",
+                                        "monta o demonstrativo mensal (modelo 1 ou 2) e mostra suas linhas",
+                                        cmdDemonstrativo);
+
+} // namespace

@@ -1,0 +1,35 @@
+// habtool pcontas FILE ANO MES [--caixa]: fills RPcontas and prints the
+// result of the special statement.
+#include "accounting/balancete.h"
+#include "core/conversions.h"
+#include "core/datastore.h"
+#include "core/session.h"
+#include "tools/habtool/habtool.h"
+
+#include <QFileInfo>
+
+namespace {
+
+int cmdPcontas(const QStringList &args)
+{
+    QStringList resto = args;
+    const bool caixa = resto.removeAll(QStringLiteral("--caixa")) > 0;
+    if (resto.size() != 3 || val(resto.at(2)) < 1 || val(resto.at(2)) > 12) {
+        err(QStringLiteral("uso: habtool pcontas ARQUIVO ANO MES [--caixa]   (mês de 1 a 12)"));
+        return 2;
+    }
+    const QFileInfo arquivo(resto.at(0));
+    Connection con;
+    con.ConnectionTimeout = 100;
+    con.Open(connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString()));
+    EncheRPcontas(con, resto.at(2), resto.at(1), caixa);
+    out(formatMoney(ResultadoPctEspecial(con), QStringLiteral("#,###,##0.00")));
+    con.Close();
+    return 0;
+}
+
+[[maybe_unused]] const bool registered = registerCommand("pcontas", "ARQUIVO ANO MES [--caixa]",
+                                        "preenche RPcontas e mostra o resultado da prestação de contas especial",
+                                        cmdPcontas);
+
+} // namespace
