@@ -19,19 +19,3 @@ bool temDireito(const QString &coluna, const QString &usuario)
     sistema.Close();
     return direito;
 }
-
-int codigoDoUsuario(const QString &usuario)
-{
-    Connection sistema;
-    sistema.ConnectionTimeout = 100;
-    sistema.Open(session.conSistema);
-    int codigo = -1;
-    {
-        Recordset rs = sistema.Execute(QStringLiteral("SELECT codigo FROM Usuarios WHERE nome = '") + usuario
-                                       + QStringLiteral("'"));
-        if (!rs.eof())
-            codigo = int(rs[QStringLiteral("codigo")].toInt());
-    }
-    sistema.Close();
-    return codigo;
-}

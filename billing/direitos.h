@@ -7,6 +7,3 @@
 // with the column name written as the act writes it ("Cfbai", "cfexc"...).
 // An unknown user has no right.
 bool temDireito(const QString &coluna, const QString &usuario);
-
-// Usuarios.codigo of a user by name, read the same way; -1 when unknown.
-int codigoDoUsuario(const QString &usuario);

@@ -173,6 +173,7 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
         const QString tipcob =
             ap[QStringLiteral("tipcob")].isNull() ? QStringLiteral("1") : ap[QStringLiteral("tipcob")].text();
         const QString tipbolbco = ap[QStringLiteral("tipbolbco")].text();
+        ap.Close();  // read; the writes below need no open statement
         TotaisRecibo t;
 
         con.Execute(QStringLiteral("UPDATE aptos SET nemis = '") + m.fnemis + QStringLiteral("',")

@@ -1,5 +1,6 @@
 #include "billing/parametros.h"
 
+#include "billing/direitos.h"
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
@@ -62,6 +63,32 @@ std::optional<ErroGravacao> confereUltimoRecibo(Connection &con, const QString &
                                                + QStringLiteral(" e você informou como recibo anterior o nr. ")
                                                + nrRecibo};
     return std::nullopt;
+}
+
+bool confereEventoFixo(Connection &con, const QString &codigo)
+{
+    if (!(val(codigo) > 0))
+        return true;
+    Recordset rs = con.Execute(QStringLiteral("SELECT tipo FROM eventos WHERE codigo = '") + codigo + QStringLiteral("'"));
+    if (!rs.eof())
+        return true;
+    MsgBox(QStringLiteral("Evento Não Cadastrado, digite um código válido ou deixe o campo vazio"), vbExclamation,
+           QStringLiteral("Erro"));
+    return false;
+}
+
+bool direitoDeIniciar(bool retificacao, const QString &usuario)
+{
+    if (!retificacao && !temDireito(QStringLiteral("cfadi"), usuario)) {
+        MsgBox(QStringLiteral("Usuário não autorizado a emitir recibos !"), vbExclamation, QStringLiteral("Atenção..."));
+        return false;
+    }
+    if (retificacao && !temDireito(QStringLiteral("Cfalt"), usuario)) {
+        MsgBox(QStringLiteral("Usuário não autorizado a retificar recibos !"), vbExclamation,
+               QStringLiteral("Atenção..."));
+        return false;
+    }
+    return true;
 }
 
 static QString booleano(const char *coluna, bool v)

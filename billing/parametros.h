@@ -57,5 +57,13 @@ QString sqlGravaParametros(const ParametrosEmissao &p);
 // returned for the error dialog.
 std::vector<ErroGravacao> gravaParametros(Connection &con, const ParametrosEmissao &p);
 
+// Lost focus of a mskEvnt: a code above 0 must be an event. Says
+// "Evento Não Cadastrado, ..." under "Erro" and gives false when it isn't.
+bool confereEventoFixo(Connection &con, const QString &codigo);
+
+// cmdInicia, after the save: the right to emit (cfadi), or to rectify (cfalt),
+// read from Usuarios now. Says why and gives false without it.
+bool direitoDeIniciar(bool retificacao, const QString &usuario);
+
 // The stored row, as the form shows it.
 ParametrosEmissao leParametros(Connection &con);

@@ -36,7 +36,6 @@ TEST(Direitos, ReadFromUsuariosAtTheMomentOfTheAct)
     EXPECT_TRUE(temDireito(QStringLiteral("Cfbai"), QStringLiteral("Caixa")));
     EXPECT_FALSE(temDireito(QStringLiteral("Cfalt"), QStringLiteral("Caixa")));
     EXPECT_FALSE(temDireito(QStringLiteral("Cfbai"), QStringLiteral("Ninguém")));
-    EXPECT_EQ(codigoDoUsuario(QStringLiteral("Gerente")), 731);
     // A right taken away counts at once.
     Connection sistema;
     sistema.Open(session.conSistema);

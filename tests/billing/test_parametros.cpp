@@ -113,3 +113,22 @@ TEST(ParametrosLegendas, CaptionsAndLetters)
     EXPECT_EQ(selecaoDaLegenda(QStringLiteral("2")), QStringLiteral("2"));
     EXPECT_EQ(legendaDaSelecao(QStringLiteral("I")), QStringLiteral("Inativos"));
 }
+
+TEST(ParametrosInicio, FixedEventCheckAndRightToStart)
+{
+    Condominio c;
+    c.usuario(3, QStringLiteral("Emissor"), false, false, false, true);
+    c.usuario(4, QStringLiteral("Retificador"), false, true, false, false);
+    ScriptedPrompter p;
+    EXPECT_TRUE(confereEventoFixo(c.con, QStringLiteral("030")));
+    EXPECT_TRUE(confereEventoFixo(c.con, QStringLiteral("___")));
+    EXPECT_FALSE(confereEventoFixo(c.con, QStringLiteral("555")));
+    EXPECT_EQ(p.last().title, QStringLiteral("Erro"));
+
+    EXPECT_TRUE(direitoDeIniciar(false, QStringLiteral("Emissor")));
+    EXPECT_FALSE(direitoDeIniciar(true, QStringLiteral("Emissor")));
+    EXPECT_EQ(p.last().text, QStringLiteral("Usuário não autorizado a retificar recibos !"));
+    EXPECT_TRUE(direitoDeIniciar(true, QStringLiteral("Retificador")));
+    EXPECT_FALSE(direitoDeIniciar(false, QStringLiteral("Retificador")));
+    EXPECT_EQ(p.last().text, QStringLiteral("Usuário não autorizado a emitir recibos !"));
+}
