@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
 namespace {
 QLineEdit *texto(QWidget *parent, const char *name, int largura, int caracteres)
@@ -44,6 +45,7 @@ frmUsucli::frmUsucli(QWidget *parent) : RecordForm(parent)
     setObjectName(QStringLiteral("frmUsucli"));
     setWindowTitle(QStringLiteral("Cadastro de Condomínios"));
     montaTela(QStringLiteral("Código:"), QString(), 3);
+    cmdImprimir_->hide();  // no report of condominiums exists
 
     QWidget *f = fraDados_;
     txtnome_ = texto(f, "txtnome", 40, 0);
