@@ -11,6 +11,7 @@
 #include "core/val.h"
 
 #include <QFileInfo>
+#include <utility>
 #include <QHash>
 #include <cmath>
 #include <sqlite3.h>
@@ -509,8 +510,23 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
     sqlite3_clear_bindings(st);
 }
 
+namespace {
+StatementListener &statementListener()
+{
+    static StatementListener listener;
+    return listener;
+}
+}
+
+StatementListener setStatementListener(StatementListener listener)
+{
+    return std::exchange(statementListener(), std::move(listener));
+}
+
 void Connection::Impl::execute(const QString &sql, Recordset::Impl *rs, long *affected)
 {
+    if (statementListener())
+        statementListener()(sql);
     if (affected)
         *affected = 0;
     jet::lex(sql, lexed);

@@ -16,6 +16,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -64,6 +65,12 @@ private:
 };
 
 class Recordset;
+
+// Hears every statement text as it is sent on any connection, before it
+// runs (tests record what the forms send). Returns the listener it replaces;
+// an empty function stops listening.
+using StatementListener = std::function<void(const QString &sql)>;
+StatementListener setStatementListener(StatementListener listener);
 
 class Connection {
 public:

@@ -74,7 +74,10 @@ void VerificaArquivos(const QString &sysPath)
 
 QString nomeArquivoCondominio(int codigo)
 {
-    return QStringLiteral("Con") + ZeroEsq(QString::number(codigo), 3) + QStringLiteral(".mdb");
+    // Codes are padded to three digits; a wider code (put in the file by hand,
+    // since the fields are masked "###") keeps all its digits: Con1000.mdb.
+    const QString digitos = QString::number(codigo);
+    return QStringLiteral("Con") + (digitos.size() > 3 ? digitos : ZeroEsq(digitos, 3)) + QStringLiteral(".mdb");
 }
 
 void copiaMatriz(const QString &sysPath, const QString &fileName)

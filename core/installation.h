@@ -28,7 +28,8 @@ void applyInstallationSettings(const InstallationSettings &settings);
 // its message. Sets session.dbSenha and session.conSistema.
 void VerificaArquivos(const QString &sysPath);
 
-// "Con" + the code padded to three digits + ".mdb".
+// "Con" + the code padded to three digits + ".mdb" (code 0 is Con000.mdb, the
+// system file; a code above 999 keeps its digits).
 QString nomeArquivoCondominio(int codigo);
 // Byte copy of Matrix.mdb to fileName in sysPath. A copy that fails is a
 // RunFailure: the program cannot go on without the file.

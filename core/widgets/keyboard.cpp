@@ -1,10 +1,13 @@
 #include "core/widgets/keyboard.h"
 
+#include "core/widgets/campos.h"
+
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimer>
 
 namespace {
@@ -18,6 +21,11 @@ protected:
         if (event->type() == QEvent::KeyPress) {
             auto *key = static_cast<QKeyEvent *>(event);
             if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+                // On a button Enter presses it; everywhere else it is a Tab.
+                if (auto *button = qobject_cast<QPushButton *>(watched)) {
+                    button->click();
+                    return true;
+                }
                 QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
                 QCoreApplication::sendEvent(watched, &tab);
                 return true;
@@ -25,15 +33,13 @@ protected:
             if (key->text() == QStringLiteral("\""))
                 return true;
         } else if (event->type() == QEvent::FocusIn) {
-            if (auto *edit = qobject_cast<QLineEdit *>(watched)) {
+            if (qobject_cast<QLineEdit *>(watched) || qobject_cast<QAbstractSpinBox *>(watched)) {
                 // After the click that gave the focus has placed the cursor.
-                QPointer<QLineEdit> guard(edit);
-                QTimer::singleShot(0, edit, [guard] {
+                QPointer<QWidget> guard(static_cast<QWidget *>(watched));
+                QTimer::singleShot(0, guard, [guard] {
                     if (guard && guard->hasFocus())
-                        guard->selectAll();
+                        SelecionaCampo();
                 });
-            } else if (auto *spin = qobject_cast<QAbstractSpinBox *>(watched)) {
-                QTimer::singleShot(0, spin, [spin] { spin->selectAll(); });
             }
         }
         return false;

@@ -68,7 +68,7 @@ QStringList frmBlocos::linhaGrade(const Recordset &rs) const
 
 QStringList frmBlocos::titulosGrade() const { return {QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Tipo")}; }
 
-void frmBlocos::imprime()
+void frmBlocos::imprime(const QString &)
 {
     Recordset rs;
     Ampulheta ampulheta;

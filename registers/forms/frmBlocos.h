@@ -23,7 +23,7 @@ protected:
     void validaCampos() override;
     QStringList linhaGrade(const Recordset &rs) const override;
     QStringList titulosGrade() const override;
-    void imprime() override;
+    void imprime(const QString &chave) override;
     QWidget *primeiroCampo() const override;
     void poeCodigo(const QString &codigo) override;
 

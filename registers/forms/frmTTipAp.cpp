@@ -5,6 +5,7 @@
 #include "core/session.h"
 #include "core/widgets/keyboard.h"
 #include "core/widgets/maskedit.h"
+#include "core/widgets/numberfield.h"
 #include "reporting/imprime.h"
 
 #include <QFormLayout>
@@ -19,10 +20,9 @@ frmTTipAp::frmTTipAp(QWidget *parent) : RecordForm(parent)
     txtDescri_ = new QLineEdit(fraDados_);
     txtDescri_->setObjectName(QStringLiteral("txtDescri"));
     txtDescri_->setMaxLength(50);
-    txtRateio_ = new QLineEdit(fraDados_);
+    txtRateio_ = new NumberField(fraDados_, QStringLiteral("##0.0000"));
     txtRateio_->setObjectName(QStringLiteral("txtRateio"));
     txtRateio_->setMaxLength(12);
-    txtRateio_->setFixedWidth(txtRateio_->fontMetrics().horizontalAdvance(QStringLiteral("000000,0000")) + 16);
     auto *layout = new QFormLayout(fraDados_);
     layout->addRow(QStringLiteral("Descrição:"), txtDescri_);
     layout->addRow(QStringLiteral("Coeficiente de Rateio:"), txtRateio_);
@@ -40,11 +40,7 @@ QString frmTTipAp::sqlExiste(const QString &c) const { return QStringLiteral("SE
 QString frmTTipAp::sqlContagem() const { return QStringLiteral("SELECT Count(codigo) As I FROM TpAp"); }
 QString frmTTipAp::sqlLista() const { return QStringLiteral("SELECT * FROM TpAp ORDER BY codigo"); }
 
-QString frmTTipAp::rateioSql() const
-{
-    QString text = txtRateio_->text().trimmed();
-    return text.isEmpty() ? QStringLiteral("0") : VirgulaPonto(text);
-}
+QString frmTTipAp::rateioSql() const { return txtRateio_->valorSql(); }
 
 QString frmTTipAp::sqlInsert(const QString &c) const
 {
@@ -63,7 +59,7 @@ QString frmTTipAp::sqlDelete(const QString &c) const { return QStringLiteral("DE
 void frmTTipAp::carregaCampos(const Recordset &rs)
 {
     txtDescri_->setText(rs[QStringLiteral("descri")].text());
-    txtRateio_->setText(rs[QStringLiteral("rateio")].text());
+    txtRateio_->setValor(rs[QStringLiteral("rateio")].toDouble());
 }
 
 void frmTTipAp::validaCampos()
@@ -79,7 +75,7 @@ QStringList frmTTipAp::linhaGrade(const Recordset &rs) const
 
 QStringList frmTTipAp::titulosGrade() const { return {QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Rateio")}; }
 
-void frmTTipAp::imprime()
+void frmTTipAp::imprime(const QString &)
 {
     Recordset rs;
     Ampulheta ampulheta;

@@ -2,6 +2,7 @@
 // Apartment types (table TpAp) and their apportionment coefficient.
 #include "registers/forms/recordform.h"
 
+class NumberField;
 class QLineEdit;
 
 class frmTTipAp : public RecordForm {
@@ -22,12 +23,12 @@ protected:
     void validaCampos() override;
     QStringList linhaGrade(const Recordset &rs) const override;
     QStringList titulosGrade() const override;
-    void imprime() override;
+    void imprime(const QString &chave) override;
     QWidget *primeiroCampo() const override;
 
 private:
     QString rateioSql() const;
 
     QLineEdit *txtDescri_ = nullptr;
-    QLineEdit *txtRateio_ = nullptr;
+    NumberField *txtRateio_ = nullptr;
 };

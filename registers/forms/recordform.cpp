@@ -1,70 +1,27 @@
 #include "registers/forms/recordform.h"
 
 #include "core/anotaerro.h"
+#include "core/conversions.h"
 #include "core/forms/frmErros.h"
 #include "core/prompter.h"
 #include "core/session.h"
 #include "core/val.h"
+#include "core/widgets/grade.h"
 #include "core/widgets/keyboard.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/modal.h"
+#include "registers/forms/pesquisa.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QRegularExpressionValidator>
 #include <QTimer>
 #include <QVBoxLayout>
-
-namespace {
-QList<QWidget *> campos(QWidget &container)
-{
-    QList<QWidget *> out;
-    for (QWidget *w : container.findChildren<QWidget *>())
-        if (qobject_cast<QLineEdit *>(w) || qobject_cast<QCheckBox *>(w) || qobject_cast<QPlainTextEdit *>(w))
-            out << w;
-    return out;
-}
-}
-
-void LimpaCampos(QWidget &container)
-{
-    for (QWidget *w : campos(container)) {
-        if (auto *e = qobject_cast<QLineEdit *>(w))
-            e->clear();
-        else if (auto *c = qobject_cast<QCheckBox *>(w))
-            c->setChecked(false);
-        else if (auto *t = qobject_cast<QPlainTextEdit *>(w))
-            t->clear();
-    }
-}
-
-void HabilitaCampos(QWidget &container, bool enabled)
-{
-    for (QWidget *w : campos(container)) {
-        w->setEnabled(enabled);
-        if (qobject_cast<QLineEdit *>(w) || qobject_cast<QPlainTextEdit *>(w)) {
-            QPalette p = w->palette();
-            p.setColor(QPalette::Base, enabled ? QColor(Qt::white) : container.palette().color(QPalette::Button));
-            w->setPalette(p);
-        }
-    }
-}
-
-void PreencheVazios(QWidget &container)
-{
-    for (QWidget *w : campos(container))
-        if (auto *e = qobject_cast<QLineEdit *>(w); e && e->inputMask().isEmpty() && e->text().isEmpty())
-            e->setText(QStringLiteral(" "));
-}
 
 RecordForm::RecordForm(QWidget *parent) : QWidget(parent) {}
 
@@ -74,12 +31,19 @@ RecordForm::~RecordForm()
         cn_.Close();
 }
 
-void RecordForm::montaTela(const QString &rotuloCodigo, const QString &mascara)
+void RecordForm::montaTela(const QString &rotuloCodigo, const QString &mascara, int digitos)
 {
     mskCodigo_ = new MaskEdit(this);
-    mskCodigo_->setObjectName(QStringLiteral("mskCodigo"));
-    mskCodigo_->setMascara(mascara);
-    mskCodigo_->setFixedWidth(mskCodigo_->fontMetrics().horizontalAdvance(QString(mascara.size() + 2, u'0')) + 12);
+    if (mascara.isEmpty()) {
+        mskCodigo_->setObjectName(QStringLiteral("txtCodigo"));
+        mskCodigo_->setValidator(new QRegularExpressionValidator(
+            QRegularExpression(QStringLiteral("[0-9]{0,%1}").arg(digitos)), mskCodigo_));
+        mskCodigo_->setFixedWidth(mskCodigo_->fontMetrics().horizontalAdvance(QString(digitos + 2, u'0')) + 14);
+    } else {
+        mskCodigo_->setObjectName(QStringLiteral("mskCodigo"));
+        mskCodigo_->setMascara(mascara);
+        mskCodigo_->setFixedWidth(mskCodigo_->fontMetrics().horizontalAdvance(QString(mascara.size() + 2, u'0')) + 14);
+    }
     mskCodigo_->installEventFilter(this);
     fraDados_ = new QFrame(this);
     fraDados_->setObjectName(QStringLiteral("fraDados"));
@@ -89,6 +53,7 @@ void RecordForm::montaTela(const QString &rotuloCodigo, const QString &mascara)
         auto *b = new QPushButton(caption, this);
         b->setObjectName(QString::fromLatin1(name));
         b->setAutoDefault(false);
+        b->setMinimumWidth(88);
         return b;
     };
     cmdGravar_ = botao("cmdGravar", QStringLiteral("&Gravar"));
@@ -101,25 +66,31 @@ void RecordForm::montaTela(const QString &rotuloCodigo, const QString &mascara)
     connect(cmdCancelar_, &QPushButton::clicked, this, &RecordForm::cmdCancelar_Click);
     connect(cmdImprimir_, &QPushButton::clicked, this, &RecordForm::cmdImprimir_Click);
     connect(cmdSair_, &QPushButton::clicked, this, &RecordForm::cmdSair_Click);
+    if (!pesquisa().dialogo.isEmpty()) {
+        cmdPesquisar_ = botao("cmdPesquisar", QStringLiteral("&Pesquisar"));
+        connect(cmdPesquisar_, &QPushButton::clicked, this, &RecordForm::cmdPesquisar_Click);
+    }
 
-    tdbGrade_ = new QTableWidget(this);
+    tdbGrade_ = new Grade(this);
     tdbGrade_->setObjectName(QStringLiteral("tdbGrade"));
-    tdbGrade_->setColumnCount(titulosGrade().size());
-    tdbGrade_->setHorizontalHeaderLabels(titulosGrade());
-    tdbGrade_->verticalHeader()->hide();
-    tdbGrade_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tdbGrade_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tdbGrade_->setSelectionMode(QAbstractItemView::SingleSelection);
-    tdbGrade_->horizontalHeader()->setStretchLastSection(true);
-    tdbGrade_->setSortingEnabled(true);  // a header click sorts on its column
-    connect(tdbGrade_, &QTableWidget::cellClicked, this, [this](int row, int) { tdbGrade_RowChange(row); });
+    tdbGrade_->modelo()->setTitulos(titulosGrade());
+    tdbGrade_->modelo()->setColunaNumerica(0, codigoNumerico());
+    tdbGrade_->setMinimumHeight(150);
+    connect(tdbGrade_, &Grade::linhaMudou, this, &RecordForm::tdbGrade_RowChange);
 
+    auto *rotulo = new QLabel(rotuloCodigo, this);
+    rotulo->setBuddy(mskCodigo_);
     auto *topo = new QHBoxLayout;
-    topo->addWidget(new QLabel(rotuloCodigo, this));
+    topo->addWidget(rotulo);
     topo->addWidget(mskCodigo_);
     topo->addStretch();
     auto *botoes = new QHBoxLayout;
-    for (QPushButton *b : {cmdGravar_, cmdApagar_, cmdCancelar_, cmdImprimir_, cmdSair_})
+    botoes->addStretch();
+    QList<QPushButton *> lista{cmdGravar_, cmdApagar_, cmdCancelar_, cmdImprimir_};
+    if (cmdPesquisar_)
+        lista << cmdPesquisar_;
+    lista << cmdSair_;
+    for (QPushButton *b : lista)
         botoes->addWidget(b);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(topo);
@@ -136,7 +107,8 @@ void RecordForm::carrega(const QString &connectionString)
     session.valorPesq.clear();
     preencheGrade();
     aplicaTeclado(*this);
-    setFixedSize(sizeHint().expandedTo(QSize(480, 420)));
+    // Position and size are fixed.
+    setFixedSize(sizeHint().expandedTo(QSize(520, 440)));
 }
 
 QString RecordForm::codigoAtual() const { return normalizaCodigo(mskCodigo_->textoMascarado()); }
@@ -158,6 +130,7 @@ void RecordForm::TrocaModo(int modo)
     cmdGravar_->setEnabled(modo != 1);
     cmdCancelar_->setEnabled(modo != 1);
     cmdApagar_->setEnabled(modo == 2);
+    modoMudou(modo);
 }
 
 void RecordForm::focaCodigo()
@@ -188,6 +161,10 @@ void RecordForm::mskCodigo_LostFocus()
     poeCodigo(codigo);
     Recordset rs = cn_.Execute(sqlBusca(codigo));
     achou_ = !rs.eof();
+    if (codigoRecusado(achou_)) {
+        focaCodigo();
+        return;
+    }
     if (novo_ && !achou_) {
         primeiroCampo()->setFocus();
         return;
@@ -196,9 +173,7 @@ void RecordForm::mskCodigo_LostFocus()
         LimpaCampos(*fraDados_);
         HabilitaCampos(*fraDados_, true);
         carregaCampos(rs);
-        const int row = linhaDoCodigo(codigo);
-        if (row >= 0)
-            tdbGrade_->setCurrentCell(row, 0);
+        tdbGrade_->posiciona(linhaDoCodigo(codigo));
         TrocaModo(2);
         primeiroCampo()->setFocus();
         return;
@@ -206,23 +181,27 @@ void RecordForm::mskCodigo_LostFocus()
     if (!achou_) {
         if (MsgBox(QStringLiteral("Código Não Cadastrado, Incluir Novo ?"), vbYesNo, QStringLiteral("Atenção...")) == vbYes) {
             novo_ = true;
-            TrocaModo(3);
             HabilitaCampos(*fraDados_, true);
+            TrocaModo(3);
             primeiroCampo()->setFocus();
         } else {
             TrocaModo(1);
+            inclusaoRecusada();
             focaCodigo();
         }
     }
 }
+
+QString RecordForm::mensagemCodigoInvalido() const { return QStringLiteral("Todo Registro deve ter um código válido"); }
 
 void RecordForm::cmdGravar_Click()
 {
     const QString codigo = codigoAtual();
     session.valorPesq = codigo;
     LimpaErros();
+    antesDasRegras();
     if (codigo.isEmpty() || val(codigo) == 0)
-        AnotaErro(kErroFatal, QStringLiteral("Todo Registro deve ter um código válido"));
+        AnotaErro(kErroFatal, mensagemCodigoInvalido());
     if (novo_ && !codigo.isEmpty()) {
         Recordset rs = cn_.Execute(sqlExiste(codigo));
         if (!rs.eof())
@@ -238,43 +217,51 @@ void RecordForm::cmdGravar_Click()
             return;
         }
     }
+    const bool eraNovo = novo_;
     session.sql = novo_ ? sqlInsert(codigo) : sqlUpdate(codigo);
     cn_.Execute(session.sql);
+    aposGravar(codigo, eraNovo);
     Recordset rs = cn_.Execute(sqlBusca(codigo));
+    GradeModel *grade = tdbGrade_->modelo();
     if (novo_) {
         novo_ = false;
-        preencheGrade();  // the new row at its sorted place
+        if (!rs.eof()) {
+            const QStringList cells = linhaGrade(rs);
+            grade->insere(grade->lugarOrdenado(cells), cells);  // at its sorted place
+        }
     } else if (!rs.eof()) {
-        const int row = linhaDoCodigo(codigo);
-        const QStringList cells = linhaGrade(rs);
-        for (int c = 0; row >= 0 && c < cells.size(); ++c)
-            tdbGrade_->item(row, c)->setText(cells[c]);
+        grade->altera(linhaDoCodigo(codigo), linhaGrade(rs));
     }
-    TrocaModo(1);
-    mskCodigo_->clear();
-    mskCodigo_->setFocus();
+    voltaAoCodigo();
 }
+
+QString RecordForm::perguntaExclusao(const QString &) const
+{
+    return QStringLiteral("Deseja Realmente Excluir Este Registro ?");
+}
+
+int RecordForm::estiloExclusao() const { return vbYesNo + vbQuestion; }
 
 void RecordForm::cmdApagar_Click()
 {
     const QString codigo = codigoAtual();
     session.valorPesq = codigo;
-    if (MsgBox(QStringLiteral("Deseja Realmente Excluir Este Registro ?"), vbYesNo + vbQuestion,
-               QStringLiteral("Atenção..."))
-        != vbYes)
+    if (MsgBox(perguntaExclusao(codigo), estiloExclusao(), QStringLiteral("Atenção...")) != vbYes)
         return;
+    antesDeApagar(codigo);
     cn_.Execute(sqlDelete(codigo));
-    const int row = linhaDoCodigo(codigo);
-    if (row >= 0)
-        tdbGrade_->removeRow(row);
-    TrocaModo(1);
-    mskCodigo_->clear();
-    mskCodigo_->setFocus();
+    tdbGrade_->modelo()->remove(linhaDoCodigo(codigo));
+    voltaAoCodigo();
 }
 
 void RecordForm::cmdCancelar_Click()
 {
     novo_ = false;
+    voltaAoCodigo();
+}
+
+void RecordForm::voltaAoCodigo()
+{
     TrocaModo(1);
     mskCodigo_->clear();
     mskCodigo_->setFocus();
@@ -282,9 +269,29 @@ void RecordForm::cmdCancelar_Click()
 
 void RecordForm::cmdImprimir_Click()
 {
+    const QString chave = chaveImpressao();
     if (primeiroCampo()->isEnabled())
         cmdGravar_Click();
-    imprime();
+    imprime(chave);
+}
+
+void RecordForm::cmdPesquisar_Click()
+{
+    const Pesquisa p = pesquisa();
+    if (!abrePesquisa(this, p.dialogo, p.titulo, p.tabela))
+        return;
+    // The chosen code is typed into the code field and left with a Tab, as a
+    // grid click does: a record in hand is dropped.
+    QString codigo = session.valorPesq.trimmed();
+    if (p.largura > 0 && codigo.size() <= p.largura)
+        codigo = ZeroEsq(codigo, p.largura);
+    novo_ = false;
+    TrocaModo(1);
+    carregando_ = true;
+    mskCodigo_->setFocus();
+    poeCodigo(codigo);
+    carregando_ = false;
+    mskCodigo_LostFocus();
 }
 
 void RecordForm::cmdSair_Click() { fechaForm(*this); }
@@ -310,45 +317,28 @@ void RecordForm::poeCodigo(const QString &codigo) { mskCodigo_->setText(codigo);
 
 void RecordForm::tdbGrade_RowChange(int row)
 {
-    QTableWidgetItem *item = row >= 0 ? tdbGrade_->item(row, 0) : nullptr;
-    if (!item || val(item->text()) < 0)
+    const QString codigo = tdbGrade_->texto(row, 0);
+    if (row < 0 || row >= tdbGrade_->linhas() || val(codigo) < 0)
         return;
     novo_ = false;
     TrocaModo(1);
     carregando_ = true;
     mskCodigo_->setFocus();
-    poeCodigo(item->text());
+    poeCodigo(codigo);
     carregando_ = false;
     mskCodigo_LostFocus();  // the {Tab} of the system
 }
 
 void RecordForm::preencheGrade()
 {
-    tdbGrade_->setSortingEnabled(false);
+    GradeModel *grade = tdbGrade_->modelo();
+    grade->limpa();
     Recordset count = cn_.Execute(sqlContagem());
-    tdbGrade_->setRowCount(0);
-    tdbGrade_->setRowCount(int(count[QStringLiteral("I")].toInt()));
-    Recordset rs = cn_.Execute(sqlLista());
-    int row = 0;
-    for (; !rs.eof(); rs.moveNext()) {
-        if (row >= tdbGrade_->rowCount())
-            tdbGrade_->setRowCount(row + 1);
-        const QStringList cells = linhaGrade(rs);
-        for (int c = 0; c < cells.size(); ++c)
-            tdbGrade_->setItem(row, c, new QTableWidgetItem(cells[c]));
-        ++row;
-    }
-    tdbGrade_->setRowCount(row);
-    tdbGrade_->setSortingEnabled(true);
-    tdbGrade_->sortByColumn(0, Qt::AscendingOrder);
-    tdbGrade_->resizeColumnsToContents();
-    tdbGrade_->horizontalHeader()->setStretchLastSection(true);
+    Q_UNUSED(count);  // the in-memory table grows as the rows come
+    for (Recordset rs = cn_.Execute(sqlLista()); !rs.eof(); rs.moveNext())
+        grade->adiciona(linhaGrade(rs));
+    grade->sort(0, Qt::AscendingOrder);
+    tdbGrade_->ajustaColunas();
 }
 
-int RecordForm::linhaDoCodigo(const QString &codigo) const
-{
-    for (int r = 0; r < tdbGrade_->rowCount(); ++r)
-        if (tdbGrade_->item(r, 0) && tdbGrade_->item(r, 0)->text() == codigo)
-            return r;
-    return -1;
-}
+int RecordForm::linhaDoCodigo(const QString &codigo) const { return tdbGrade_->modelo()->linhaDe(0, codigo); }

@@ -1,17 +1,21 @@
 // The record-form protocol, driven on frmBlocos by control name.
 #include "support/fixtures.h"
 #include "support/scriptedprompter.h"
+#include "registerssupport.h"
 
 #include "core/datastore.h"
 #include "core/session.h"
+#include "core/anotaerro.h"
+#include "core/widgets/grade.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/modal.h"
 #include "registers/forms/frmBlocos.h"
 
 #include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -37,13 +41,18 @@ struct Blocos {
     }
 };
 
-template <class T>
-T *get(QWidget &form, const char *name)
-{
-    T *w = form.findChild<T *>(QString::fromLatin1(name));
-    EXPECT_NE(w, nullptr) << name;
-    return w;
-}
+// A register with one warning-level rule, to drive the save that asks: a
+// description in lower case is only a warning.
+class BlocosComAlerta : public frmBlocos {
+protected:
+    void validaCampos() override
+    {
+        frmBlocos::validaCampos();
+        const QString d = findChild<QLineEdit *>(QStringLiteral("txtDescri"))->text();
+        if (!d.isEmpty() && d == d.toLower())
+            AnotaErro(kAlertaErro, QStringLiteral("Descrição em letras minúsculas"));
+    }
+};
 }
 
 TEST(RecordForm, CodeFieldLoadsAsksAndKeepsAnEmptyCode)
@@ -56,9 +65,9 @@ TEST(RecordForm, CodeFieldLoadsAsksAndKeepsAnEmptyCode)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     auto *codigo = get<MaskEdit>(form, "mskCodigo");
     auto *descri = get<QLineEdit>(form, "txtDescri");
-    auto *grade = get<QTableWidget>(form, "tdbGrade");
-    EXPECT_EQ(grade->rowCount(), 2);
-    EXPECT_EQ(grade->item(1, 2)->text(), QStringLiteral("Subgrupo"));
+    auto *grade = get<Grade>(form, "tdbGrade");
+    EXPECT_EQ(grade->linhas(), 2);
+    EXPECT_EQ(grade->texto(1, 2), QStringLiteral("Subgrupo"));
 
     // Tab from an empty code: mode 1, and the focus comes back.
     codigo->setFocus();
@@ -95,7 +104,7 @@ TEST(RecordForm, CodeFieldLoadsAsksAndKeepsAnEmptyCode)
     descri->setText(QStringLiteral("Bloco B"));
     get<QPushButton>(form, "cmdGravar")->click();
     EXPECT_EQ(b.descri(QStringLiteral("02")), QStringLiteral("Bloco B"));
-    EXPECT_EQ(grade->rowCount(), 3);
+    EXPECT_EQ(grade->linhas(), 3);
     EXPECT_EQ(form.modo(), 1);
     form.hide();
 }
@@ -115,9 +124,10 @@ TEST(RecordForm, SaveFindingsDuplicatesDeleteAndGrid)
             d.findChild<QPushButton *>(QStringLiteral("cmdNao"))->click();
     });
     frmBlocos form;
+    mostra(form);
     auto *codigo = get<MaskEdit>(form, "mskCodigo");
     auto *descri = get<QLineEdit>(form, "txtDescri");
-    auto *grade = get<QTableWidget>(form, "tdbGrade");
+    auto *grade = get<Grade>(form, "tdbGrade");
 
     // A fatal finding stops the save; the fields stay for correction.
     p.answer(vbYes, QStringLiteral("Incluir Novo"));
@@ -145,21 +155,103 @@ TEST(RecordForm, SaveFindingsDuplicatesDeleteAndGrid)
     get<QPushButton>(form, "cmdCancelar")->click();
 
     // A grid click loads its record; an update changes the grid's row.
-    grade->setCurrentCell(1, 0);
-    form.tdbGrade_RowChange(1);
+    QTest::mouseClick(grade->viewport(), Qt::LeftButton, {}, grade->visualRect(grade->model()->index(1, 1)).center());
+    ASSERT_EQ(grade->linhaAtual(), 1);
     EXPECT_EQ(form.modo(), 2);
     EXPECT_EQ(descri->text(), QStringLiteral("Bloco A - Entrada 1"));
     descri->setText(QStringLiteral("Entrada Norte"));
     get<QPushButton>(form, "cmdGravar")->click();
     EXPECT_EQ(b.descri(QStringLiteral("0101")), QStringLiteral("Entrada Norte"));
-    EXPECT_EQ(grade->item(1, 1)->text(), QStringLiteral("Entrada Norte"));
+    EXPECT_EQ(grade->texto(1, 1), QStringLiteral("Entrada Norte"));
 
     // Delete removes the row from the table and the grid.
     form.tdbGrade_RowChange(0);
     p.answer(vbYes, QStringLiteral("Deseja Realmente Excluir Este Registro ?"));
     get<QPushButton>(form, "cmdApagar")->click();
     EXPECT_EQ(b.descri(QStringLiteral("01")), QStringLiteral("<nenhum>"));
-    EXPECT_EQ(grade->rowCount(), 1);
+    EXPECT_EQ(grade->linhas(), 1);
     EXPECT_EQ(form.modo(), 1);
     setModalHandler(old);
+}
+
+TEST(RecordForm, WarningAsksAndSavesOnSimOnly)
+{
+    Blocos b;
+    ScriptedPrompter p;
+    BlocosComAlerta form;
+    auto *codigo = get<MaskEdit>(form, "mskCodigo");
+    auto *descri = get<QLineEdit>(form, "txtDescri");
+    auto *gravar = get<QPushButton>(form, "cmdGravar");
+
+    p.answer(vbYes, QStringLiteral("Incluir Novo"));
+    codigo->setText(QStringLiteral("05"));
+    form.mskCodigo_LostFocus();
+    descri->setText(QStringLiteral("bloco e"));
+    {
+        // "Não": nothing is written and the record stays in hand.
+        ModalScript modal;
+        modal.on(QStringLiteral("frmErros"), [](QDialog &d) {
+            EXPECT_TRUE(d.findChild<QPushButton *>(QStringLiteral("cmdOk"))->isHidden());
+            EXPECT_EQ(d.findChild<QLabel *>(QStringLiteral("lblMensagem"))->text(), QStringLiteral("Deseja gravar assim mesmo ?"));
+            d.findChild<QPushButton *>(QStringLiteral("cmdNao"))->click();
+        });
+        gravar->click();
+    }
+    EXPECT_EQ(session.listaErros[0][1], kAlertaErro);
+    EXPECT_EQ(b.descri(QStringLiteral("05")), QStringLiteral("<nenhum>"));
+    EXPECT_EQ(form.modo(), 3);
+    EXPECT_FALSE(session.cancelaGrava);
+    {
+        // "Sim": the save goes on.
+        ModalScript modal;
+        modal.on(QStringLiteral("frmErros"), clickButton(QStringLiteral("cmdSim")));
+        StatementLog log;
+        gravar->click();
+        EXPECT_EQ(log.startingWith(QStringLiteral("INSERT")),
+                  QStringList{QStringLiteral("INSERT INTO Grupos(codgrupo,Grupo,Descri) VALUES('05',True,'bloco e')")});
+    }
+    EXPECT_EQ(b.descri(QStringLiteral("05")), QStringLiteral("bloco e"));
+    EXPECT_EQ(form.modo(), 1);
+}
+
+TEST(RecordForm, StatementsHeaderSortAndTheLastRowDeleted)
+{
+    Blocos b;
+    ScriptedPrompter p;
+    frmBlocos form;
+    mostra(form);
+    auto *codigo = get<MaskEdit>(form, "mskCodigo");
+    auto *descri = get<QLineEdit>(form, "txtDescri");
+    auto *grade = get<Grade>(form, "tdbGrade");
+
+    // A click on the header of the description sorts on it; another click reverses it.
+    QHeaderView *header = grade->horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 5, 5));
+    const QString primeiro = grade->texto(0, 1);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 5, 5));
+    EXPECT_NE(grade->texto(0, 1), primeiro);
+    EXPECT_EQ(grade->linhas(), 2);
+
+    StatementLog log;
+    codigo->setText(QStringLiteral("0101"));
+    form.mskCodigo_LostFocus();
+    descri->setText(QStringLiteral("Entrada Sul"));
+    get<QPushButton>(form, "cmdGravar")->click();
+    EXPECT_EQ(log.sent.value(0), QStringLiteral("SELECT * FROM Grupos Where codgrupo = '0101'"));
+    EXPECT_EQ(log.startingWith(QStringLiteral("Update")),
+              QStringList{QStringLiteral("Update Grupos Set Descri = 'Entrada Sul' Where codgrupo = '0101'")});
+
+    // Deleting every row leaves mode 1 and an empty grid.
+    for (const char *c : {"0101", "01"}) {
+        codigo->setText(QString::fromLatin1(c));
+        form.mskCodigo_LostFocus();
+        p.answer(vbYes, QStringLiteral("Deseja Realmente Excluir Este Registro ?"));
+        get<QPushButton>(form, "cmdApagar")->click();
+    }
+    EXPECT_EQ(log.startingWith(QStringLiteral("DELETE")),
+              (QStringList{QStringLiteral("DELETE * FROM Grupos WHERE codgrupo = '0101'"),
+                           QStringLiteral("DELETE * FROM Grupos WHERE codgrupo = '01'")}));
+    EXPECT_EQ(grade->linhas(), 0);
+    EXPECT_EQ(form.modo(), 1);
+    EXPECT_TRUE(form.close());
 }

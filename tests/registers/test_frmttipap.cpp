@@ -4,12 +4,13 @@
 
 #include "core/datastore.h"
 #include "core/session.h"
+#include "core/widgets/grade.h"
 #include "core/widgets/maskedit.h"
+#include "core/widgets/numberfield.h"
 #include "registers/forms/frmTTipAp.h"
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableWidget>
 #include <gtest/gtest.h>
 
 TEST(TiposDeApartamento, SavedWithTheCoefficientAndPaddedCode)
@@ -21,7 +22,7 @@ TEST(TiposDeApartamento, SavedWithTheCoefficientAndPaddedCode)
     frmTTipAp form;
     auto *codigo = form.findChild<MaskEdit *>(QStringLiteral("mskCodigo"));
     auto *descri = form.findChild<QLineEdit *>(QStringLiteral("txtDescri"));
-    auto *rateio = form.findChild<QLineEdit *>(QStringLiteral("txtRateio"));
+    auto *rateio = form.findChild<NumberField *>(QStringLiteral("txtRateio"));
     p.answer(vbYes, QStringLiteral("Código Não Cadastrado, Incluir Novo ?"));
     codigo->setText(QStringLiteral("7"));
     form.mskCodigo_LostFocus();
@@ -43,10 +44,10 @@ TEST(TiposDeApartamento, SavedWithTheCoefficientAndPaddedCode)
     codigo->setText(QStringLiteral("07"));
     form.mskCodigo_LostFocus();
     EXPECT_EQ(form.modo(), 2);
-    EXPECT_EQ(rateio->text(), QStringLiteral("1,75"));
+    EXPECT_EQ(rateio->text(), QStringLiteral("1,7500"));
     rateio->setText(QStringLiteral("2"));
     form.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
-    auto *grade = form.findChild<QTableWidget *>(QStringLiteral("tdbGrade"));
-    ASSERT_EQ(grade->rowCount(), 1);
-    EXPECT_EQ(grade->item(0, 2)->text(), QStringLiteral("2"));
+    auto *grade = form.findChild<Grade *>(QStringLiteral("tdbGrade"));
+    ASSERT_EQ(grade->linhas(), 1);
+    EXPECT_EQ(grade->texto(0, 2), QStringLiteral("2"));
 }

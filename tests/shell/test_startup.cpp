@@ -250,6 +250,14 @@ TEST(Activation, LoginPathSeedsANewFileOrChoosesAnother)
     }
 }
 
+TEST(Activation, FileNameOfACode)
+{
+    // Code 0 is the system file itself; a code wider than three digits is not cut or refused.
+    EXPECT_EQ(nomeArquivoCondominio(0), QStringLiteral("Con000.mdb"));
+    EXPECT_EQ(nomeArquivoCondominio(27), QStringLiteral("Con027.mdb"));
+    EXPECT_EQ(nomeArquivoCondominio(1000), QStringLiteral("Con1000.mdb"));
+}
+
 TEST(ErrorList, NumbersTypesAndItsLimit)
 {
     LimpaErros();

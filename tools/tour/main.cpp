@@ -112,9 +112,17 @@ int main(int argc, char **argv)
     AnotaErro(kAlertaErro, QStringLiteral("O telefone do proprietário está sem DDD"));
     AnotaErro(kErroFatal, QStringLiteral("Todo Registro deve ter um código válido"));
 
+    // A form may change the session's active file (frmUsucli points it at the
+    // system file); every form is photographed on the demo condominium.
+    const QString conAtiva = session.conAtiva;
     for (const FormEntry &entry : allForms()) {
         if (entry.name == QLatin1String("frmSenha"))
             continue;  // photographed at the login
+        session.conAtiva = conAtiva;
+        // The search dialogs read their table and title from the session.
+        const bool sistema = entry.name == QLatin1String("frmPesqGeral");
+        session.tabPesq = sistema ? QStringLiteral("Clientes") : QStringLiteral("Aptos");
+        session.tituloPesq = sistema ? QStringLiteral("Pesquisa de Condomínios") : QStringLiteral("Pesquisa de Apartamentos");
         try {
             switch (entry.kind) {
             case FormKind::Child: {

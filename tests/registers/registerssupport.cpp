@@ -1,0 +1,79 @@
+#include "registerssupport.h"
+
+#include "core/datastore.h"
+#include "core/forms/formcatalog.h"
+#include "core/session.h"
+#include "registers/forms/frmPesqGeral.h"
+#include "registers/forms/frmPesqap.h"
+#include "registers/forms/frmPesquisa.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+StatementLog::StatementLog()
+{
+    setStatementListener([this](const QString &sql) { sent << sql; });
+}
+
+StatementLog::~StatementLog() { setStatementListener({}); }
+
+QStringList StatementLog::startingWith(const QString &prefix) const
+{
+    QStringList out;
+    for (const QString &s : sent)
+        if (s.startsWith(prefix, Qt::CaseInsensitive))
+            out << s;
+    return out;
+}
+
+RegistersDir::RegistersDir()
+{
+    makeCondominium(1);
+    useInSession(1);
+    // The report templates, as in a program directory.
+    const QDir reports(sourceDir() + QStringLiteral("reports"));
+    for (const QString &name : reports.entryList({QStringLiteral("*.rpt")}, QDir::Files))
+        QFile::copy(reports.filePath(name), file(name));
+    session.usuario = QStringLiteral("Administrador");
+    session.cancelaGrava = false;
+    session.valorPesq.clear();
+    execSistema(QStringLiteral("INSERT INTO Clientes(codigo,nome,cidade,uf) VALUES(1,\"Residencial Teste\",\"Campinas\",'SP')"));
+    registerForm<frmPesquisa>(QStringLiteral("frmPesquisa"), FormKind::Dialog);
+    registerForm<frmPesqGeral>(QStringLiteral("frmPesqGeral"), FormKind::Dialog);
+    registerForm<frmPesqap>(QStringLiteral("frmPesqap"), FormKind::Dialog);
+}
+
+void RegistersDir::execSistema(const QString &sql)
+{
+    Connection cn;
+    cn.Open(session.conSistema);
+    cn.Execute(sql);
+    cn.Close();
+}
+
+void RegistersDir::execAtivo(const QString &sql)
+{
+    Connection cn;
+    cn.Open(session.conAtiva);
+    cn.Execute(sql);
+    cn.Close();
+}
+
+QString RegistersDir::consulta(const QString &connectionString, const QString &sql, const QString &column)
+{
+    Connection cn;
+    cn.Open(connectionString);
+    Recordset rs = cn.Execute(sql);
+    const QString out = rs.eof() ? QStringLiteral("<nenhum>") : rs[column].text();
+    rs.Close();
+    cn.Close();
+    return out;
+}
+
+void mostra(QWidget &form)
+{
+    form.show();
+    form.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+}

@@ -1,0 +1,212 @@
+// frmUsuarios: who may create, the rights dependency, the statements, the
+// password change and the print.
+#include "registerssupport.h"
+#include "support/scriptedprompter.h"
+
+#include "core/conversions.h"
+#include "core/datastore.h"
+#include "core/forms/frmTrocasen.h"
+#include "core/session.h"
+#include "core/widgets/grade.h"
+#include "core/widgets/maskedit.h"
+#include "registers/forms/frmUsuarios.h"
+#include "reporting/imprime.h"
+
+#include <QCheckBox>
+#include <QDate>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+struct Usuarios : RegistersDir {
+    Usuarios()
+    {
+        execSistema(QStringLiteral("INSERT INTO Usuarios(codigo,nome,senha,dsenha,impressora,empat,bdcon,bdadi,bdexc,bdalt,"
+                                   "cfcon,cfadi,cfexc,cfalt,cfbai) VALUES(1,\"Maria\",\"")
+                    + EmbaralhaSenha(QStringLiteral("segredo"))
+                    + QStringLiteral("\",'02/01/2008','L',1,True,True,False,True,True,True,True,True,False)"));
+        execSistema(QStringLiteral("INSERT INTO Usuarios(codigo,nome,senha,dsenha,impressora,empat,bdcon,bdadi,bdexc,bdalt,"
+                                   "cfcon,cfadi,cfexc,cfalt,cfbai) VALUES(2,\"Joao\",\"x\",'02/01/2008','M',0,"
+                                   "False,False,False,False,False,False,False,False,False)"));
+    }
+    QString sistema(const QString &sql, const QString &column) { return consulta(session.conSistema, sql, column); }
+};
+
+const QString hoje() { return formatDate(QDate::currentDate(), QStringLiteral("dd/mm/yyyy")); }
+}
+
+TEST(Usuarios, AdministratorCreatesWithTheSystemsStatement)
+{
+    Usuarios dir;
+    ScriptedPrompter p;
+    frmUsuarios form;
+    auto *codigo = get<MaskEdit>(form, "mskCodigo");
+    EXPECT_EQ(get<Grade>(form, "tdbGrade")->linhas(), 2);
+
+    p.answer(vbYes, QStringLiteral("Código Não Cadastrado, Incluir Novo ?"));
+    codigo->setText(QStringLiteral("3"));
+    form.mskCodigo_LostFocus();
+    ASSERT_EQ(form.modo(), 3);
+    EXPECT_TRUE(get<QLineEdit>(form, "txtSenha")->isEnabled());
+    get<QLineEdit>(form, "txtnome")->setText(QStringLiteral("Pedro"));
+    get<QLineEdit>(form, "txtSenha")->setText(QStringLiteral("abc"));
+    get<QRadioButton>(form, "OptIj")->setChecked(true);
+    get<MaskEdit>(form, "mskCodcli")->setText(QStringLiteral("001"));
+    get<QCheckBox>(form, "chkBdcon")->click();
+    get<QCheckBox>(form, "chkBdalt")->setChecked(true);
+    StatementLog log;
+    get<QPushButton>(form, "cmdGravar")->click();
+    EXPECT_EQ(log.startingWith(QStringLiteral("INSERT")),
+              QStringList{QStringLiteral("INSERT INTO usuarios(codigo,nome,senha,impressora,dsenha,empat,bdcon,bdadi,bdexc,"
+                                         "bdalt,cfcon,cfadi,cfexc,cfalt,cfbai) VALUES( '3',\"Pedro\",\"")
+                          + EmbaralhaSenha(QStringLiteral("abc")) + QStringLiteral("\",'J','") + hoje()
+                          + QStringLiteral("','1',True,False,False,True,False,False,False,False,False)")});
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT senha FROM Usuarios WHERE codigo = 3"), QStringLiteral("senha")),
+              EmbaralhaSenha(QStringLiteral("abc")));
+    EXPECT_EQ(get<Grade>(form, "tdbGrade")->linhas(), 3);
+
+    // An update leaves the password alone; the rights go as they stand.
+    codigo->setText(QStringLiteral("3"));
+    form.mskCodigo_LostFocus();
+    ASSERT_EQ(form.modo(), 2);
+    EXPECT_FALSE(get<QLineEdit>(form, "txtSenha")->isEnabled());
+    EXPECT_TRUE(get<QPushButton>(form, "cmdApagar")->isEnabled());
+    get<QRadioButton>(form, "optIn")->setChecked(true);
+    log.clear();
+    get<QPushButton>(form, "cmdGravar")->click();
+    EXPECT_EQ(log.startingWith(QStringLiteral("Update")),
+              QStringList{QStringLiteral("Update usuarios Set nome = \"Pedro\",impressora = 'S',empat = '1',Bdcon = True,"
+                                         "Bdadi = False,Bdexc = False,Bdalt = True,Cfcon = False,Cfadi = False,"
+                                         "Cfexc = False,Cfalt = False,Cfbai = False Where codigo = 3")});
+
+    // The administrator deletes, after the question.
+    codigo->setText(QStringLiteral("3"));
+    form.mskCodigo_LostFocus();
+    p.answer(vbYes, QStringLiteral("Deseja Realmente Excluir Este Usuário ?"));
+    log.clear();
+    get<QPushButton>(form, "cmdApagar")->click();
+    EXPECT_EQ(log.startingWith(QStringLiteral("DELETE")), QStringList{QStringLiteral("DELETE FROM Usuarios WHERE codigo = 3")});
+    EXPECT_EQ(get<Grade>(form, "tdbGrade")->linhas(), 2);
+}
+
+TEST(Usuarios, OtherUsersOpenRecordsButNeitherCreateNorGiveRights)
+{
+    Usuarios dir;
+    ScriptedPrompter p;
+    session.usuario = QStringLiteral("Joao");
+    frmUsuarios form;
+    auto *codigo = get<MaskEdit>(form, "mskCodigo");
+
+    codigo->setText(QStringLiteral("9"));
+    form.mskCodigo_LostFocus();
+    ASSERT_EQ(p.calls.size(), 1u);
+    EXPECT_EQ(p.last().text, QStringLiteral("Somente o Administrador Esta Autorizado a Cadastrar Usuários !"));
+    EXPECT_EQ(p.last().title, QStringLiteral("Atenção..."));
+    EXPECT_EQ(form.modo(), 1);
+    EXPECT_EQ(codigo->textoMascarado(), QStringLiteral("___"));
+
+    // Another's record: name and printer may change, rights, delete and cancel are off.
+    codigo->setText(QStringLiteral("1"));
+    form.mskCodigo_LostFocus();
+    ASSERT_EQ(form.modo(), 2);
+    EXPECT_EQ(get<QLineEdit>(form, "txtnome")->text(), QStringLiteral("Maria"));
+    EXPECT_EQ(get<QLabel>(form, "lblNome")->text(), QStringLiteral("Residencial Teste"));
+    EXPECT_EQ(get<QLabel>(form, "lblDsenha")->text(), QStringLiteral("02/01/2008"));
+    EXPECT_TRUE(get<QRadioButton>(form, "optIl")->isChecked());
+    EXPECT_TRUE(get<QLineEdit>(form, "txtnome")->isEnabled());
+    EXPECT_FALSE(get<QGroupBox>(form, "frmBdados")->isEnabled());
+    EXPECT_FALSE(get<QGroupBox>(form, "frmCFinc")->isEnabled());
+    EXPECT_FALSE(get<QPushButton>(form, "cmdApagar")->isEnabled());
+    EXPECT_FALSE(get<QPushButton>(form, "cmdCancelar")->isEnabled());
+    get<QLineEdit>(form, "txtnome")->setText(QStringLiteral("Maria Souza"));
+    get<QPushButton>(form, "cmdGravar")->click();
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT nome,bdexc FROM Usuarios WHERE codigo = 1"), QStringLiteral("nome")),
+              QStringLiteral("Maria Souza"));
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT nome,cfcon FROM Usuarios WHERE codigo = 1"), QStringLiteral("cfcon")),
+              QStringLiteral("Verdadeiro"));
+}
+
+TEST(Usuarios, ConsultationIsTheMasterOfEachGroup)
+{
+    Usuarios dir;
+    ScriptedPrompter p;
+    frmUsuarios form;
+    mostra(form);
+    get<MaskEdit>(form, "mskCodigo")->setText(QStringLiteral("1"));
+    form.mskCodigo_LostFocus();
+    auto *cfcon = get<QCheckBox>(form, "chkCfcon");
+    const QList<QCheckBox *> dependentes{get<QCheckBox>(form, "chkCfadi"), get<QCheckBox>(form, "chkCfexc"),
+                                         get<QCheckBox>(form, "chkCfalt"), get<QCheckBox>(form, "chkCfbai")};
+    EXPECT_TRUE(dependentes[0]->isChecked());
+    cfcon->click();  // unchecked: the four are unchecked and disabled
+    for (QCheckBox *c : dependentes) {
+        EXPECT_FALSE(c->isChecked()) << c->objectName().toStdString();
+        EXPECT_FALSE(c->isEnabled()) << c->objectName().toStdString();
+    }
+    cfcon->click();
+    for (QCheckBox *c : dependentes)
+        EXPECT_TRUE(c->isEnabled());
+    EXPECT_FALSE(dependentes[0]->isChecked());
+
+    // A dependent box whose master is off can't keep the focus: the test runs again on focus.
+    auto *bdcon = get<QCheckBox>(form, "chkBdcon");
+    auto *bdadi = get<QCheckBox>(form, "chkBdadi");
+    bdcon->setChecked(false);  // changed without a click
+    bdadi->setFocus();
+    EXPECT_FALSE(bdadi->isEnabled());
+    EXPECT_FALSE(bdadi->isChecked());
+
+    // Closing with the record in hand is refused in this form's words.
+    EXPECT_FALSE(form.close());
+    EXPECT_EQ(p.last().text, QStringLiteral("Você não pode abandonar uma operação em andamento, grave ou cancele antes..."));
+    form.cmdCancelar_Click();
+}
+
+TEST(Usuarios, PasswordChangeAndPrint)
+{
+    Usuarios dir;
+    ScriptedPrompter p;
+    frmUsuarios form;
+    get<MaskEdit>(form, "mskCodigo")->setText(QStringLiteral("1"));
+    form.mskCodigo_LostFocus();
+    {
+        ModalScript modal;
+        modal.on(QStringLiteral("frmTrocasen"), clickButton(QStringLiteral("cmdCancelar")));
+        modal.on(QStringLiteral("frmTrocasen"), [](QDialog &d) {
+            auto *antiga = d.findChild<QLineEdit *>(QStringLiteral("txtsenha"));
+            antiga->setText(QStringLiteral("segredo"));
+            static_cast<frmTrocasen &>(d).txtsenha_LostFocus();
+            d.findChild<QLineEdit *>(QStringLiteral("txtNova"))->setText(QStringLiteral("nova"));
+            d.findChild<QLineEdit *>(QStringLiteral("txtConfirma"))->setText(QStringLiteral("nova"));
+            d.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
+        });
+        get<QPushButton>(form, "cmdTrocasen")->click();
+        EXPECT_EQ(get<QLabel>(form, "lblDsenha")->text(), QStringLiteral("02/01/2008"));
+        EXPECT_FALSE(session.cancelaGrava);
+        get<QPushButton>(form, "cmdTrocasen")->click();
+        EXPECT_EQ(get<QLabel>(form, "lblDsenha")->text(), hoje());
+    }
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT senha FROM Usuarios WHERE codigo = 1"), QStringLiteral("senha")),
+              EmbaralhaSenha(QStringLiteral("nova")));
+
+    // Print: the record is saved first, then the user's card comes out.
+    StatementLog log;
+    get<QPushButton>(form, "cmdImprimir")->click();
+    EXPECT_EQ(form.modo(), 1);
+    EXPECT_TRUE(log.sent.contains(QStringLiteral(
+        "SELECT Usuarios.*,Clientes.Nome FROM Usuarios INNER JOIN Clientes ON Usuarios.Empat = Clientes.codigo WHERE "
+        "Usuarios.nome = 'Maria'")));
+    auto report = lastReport();
+    ASSERT_NE(report, nullptr);
+    EXPECT_EQ(report->title, QStringLiteral("Cadastro de Usuário"));
+    EXPECT_TRUE(report->log.isEmpty()) << report->log.join(u'\n').toStdString();
+
+    // A user of condominium 0 has no row in Clientes: the join drops him, nothing prints.
+    get<MaskEdit>(form, "mskCodigo")->setText(QStringLiteral("2"));
+    form.mskCodigo_LostFocus();
+    get<QPushButton>(form, "cmdImprimir")->click();
+    EXPECT_EQ(lastReport(), report);
+}
