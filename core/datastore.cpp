@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <utility>
 #include <QHash>
+#include <algorithm>
 #include <cmath>
 #include <sqlite3.h>
 
@@ -336,8 +337,53 @@ void fnInt(sqlite3_context *ctx, int argc, sqlite3_value **argv)
     sqlite3_result_double(ctx, std::floor(sqlite3_value_double(argv[0])));
 }
 
+// Text columns compare as the original engine compared them: without regard
+// to case, accented letters too ("JOÃO" is "joão"), and in sorting an
+// accented letter stands with its plain letter ("Álvaro" before "Bruno").
+// Text that differs only in accents is not equal; "Joao" sorts before "João".
+// Pure ASCII text compares exactly as SQLite's own NOCASE, so indexes made
+// before this collation stay in order.
+QString sortKey(const QString &text, bool keepAccents)
+{
+    QString key;
+    key.reserve(text.size());
+    for (QChar c : text) {
+        if (!keepAccents && c.decompositionTag() == QChar::Canonical)
+            c = c.decomposition().at(0);
+        key += c.toLower();
+    }
+    return key;
+}
+
+int jetNocase(void *, int n1, const void *p1, int n2, const void *p2)
+{
+    const auto *a = static_cast<const unsigned char *>(p1);
+    const auto *b = static_cast<const unsigned char *>(p2);
+    bool ascii = true;
+    for (int i = 0; i < n1 && ascii; ++i)
+        ascii = a[i] < 0x80;
+    for (int i = 0; i < n2 && ascii; ++i)
+        ascii = b[i] < 0x80;
+    if (ascii) {
+        const int n = std::min(n1, n2);
+        for (int i = 0; i < n; ++i) {
+            const int ca = (a[i] >= 'A' && a[i] <= 'Z') ? a[i] + 32 : a[i];
+            const int cb = (b[i] >= 'A' && b[i] <= 'Z') ? b[i] + 32 : b[i];
+            if (ca != cb)
+                return ca - cb;
+        }
+        return n1 - n2;
+    }
+    const QString ta = QString::fromUtf8(reinterpret_cast<const char *>(a), n1);
+    const QString tb = QString::fromUtf8(reinterpret_cast<const char *>(b), n2);
+    if (const int c = sortKey(ta, false).compare(sortKey(tb, false)))
+        return c;
+    return sortKey(ta, true).compare(sortKey(tb, true));
+}
+
 void registerFunctions(sqlite3 *db)
 {
+    sqlite3_create_collation_v2(db, "NOCASE", SQLITE_UTF8, nullptr, jetNocase, nullptr);
     struct Fn {
         const char *name;
         int args;
@@ -714,6 +760,7 @@ void Connection::createFile(const QString &path)
         sqlite3_close(db);
         throw DatabaseError(message, path);
     }
+    registerFunctions(db);
     QStringList statements{QStringLiteral("PRAGMA journal_mode=WAL"), QStringLiteral("BEGIN")};
     statements << SchemaCatalog::instance().createStatements() << QStringLiteral("COMMIT");
     for (const QString &s : statements) {

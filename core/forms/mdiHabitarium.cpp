@@ -1,5 +1,7 @@
 #include "core/forms/mdiHabitarium.h"
 
+#include "core/conversions.h"
+#include "core/datastore.h"
 #include "core/forms/formcatalog.h"
 #include "core/forms/frmAtImpr.h"
 #include "core/forms/frmAtempr.h"
@@ -264,9 +266,13 @@ void mdiHabitarium::executa(const ItemMenu &item)
     const QString form = QString::fromLatin1(item.form);
     if (item.direito) {
         bool permitido = false;
-        {
+        try {
             Ampulheta ampulheta;
             permitido = TemDireito(QString::fromLatin1(item.direito));
+        } catch (const DatabaseError &) {
+            return;  // the entry's handler only puts the pointer back
+        } catch (const RunFailure &) {
+            return;
         }
         if (!permitido) {
             MsgBox(QString::fromUtf8(item.mensagem), vbCritical, QStringLiteral("Atenção..."));
@@ -291,10 +297,16 @@ QWidget *mdiHabitarium::abreForm(const QString &formName)
                QStringLiteral("Atenção"));
         return nullptr;
     }
+    // A form whose load fails (its file is missing, a statement fails) is not
+    // opened: the handler puts the pointer back and the program goes on.
     std::unique_ptr<QWidget> form;
-    {
+    try {
         Ampulheta ampulheta;
-        form.reset(entry->make());  // a failure of its load goes on to the top level
+        form.reset(entry->make());
+    } catch (const DatabaseError &) {
+        return nullptr;
+    } catch (const RunFailure &) {
+        return nullptr;
     }
     if (descarregado(*form))
         return nullptr;

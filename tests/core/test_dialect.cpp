@@ -182,6 +182,16 @@ TEST_F(Dialect, NamesWithoutRegardToCase)
     EXPECT_EQ(rs["Nome"].text(), "(Nenhum)");
     // Text compares without regard to case, as the original engine did.
     EXPECT_FALSE(con.Execute("SELECT * FROM Pjuridica WHERE nome = '(NENHUM)'").eof());
+
+    // Accented letters too, and in a sort an accented letter stands with its plain one.
+    for (const char *nome : {"Bruno", "Álvaro", "joão", "Joao", "Érica", "Ana"})
+        exec(QStringLiteral("INSERT INTO Moradores(nome,codap) VALUES(\"%1\",'000101')").arg(QString::fromUtf8(nome)));
+    EXPECT_EQ(one("SELECT Count(nome) As I FROM Moradores WHERE nome = 'JOÃO'").toInt(), 1);
+    EXPECT_EQ(one("SELECT nome FROM Moradores WHERE nome = 'ÁLVARO'").text(), "Álvaro");
+    QStringList ordem;
+    for (Recordset m = con.Execute("SELECT * FROM Moradores ORDER BY nome"); !m.eof(); m.moveNext())
+        ordem << m["nome"].text();
+    EXPECT_EQ(ordem, QStringList({"Álvaro", "Ana", "Bruno", "Érica", "Joao", "joão"}));
 }
 
 TEST_F(Dialect, QuotedNumbersReachNumberAndMoneyColumns)

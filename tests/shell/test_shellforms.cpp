@@ -4,6 +4,7 @@
 
 #include "core/anotaerro.h"
 #include "core/conversions.h"
+#include "core/datastore.h"
 #include "core/forms/formcatalog.h"
 #include "core/forms/frmAtImpr.h"
 #include "core/forms/frmAtempr.h"
@@ -17,6 +18,7 @@
 #include "support/scriptedprompter.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDate>
 #include <QFile>
 #include <QLabel>
@@ -275,6 +277,32 @@ TEST(MainWindow, MenuRightsAreReadAtEachClick)
     for (const char *dead : {"mnuAreas", "mnuGerarC", "mnuInfracao", "mnuDiversos", "mnuPorc", "tob01", "tob08", "tob11"})
         mdi.acao(QString::fromLatin1(dead))->trigger();
     EXPECT_EQ(p.calls.size(), before);
+}
+
+TEST(MainWindow, AFormThatFailsToLoadIsNotOpenedAndTheProgramGoesOn)
+{
+    ShellDir dir;
+    mdiHabitarium mdi;
+    session.usuario = QStringLiteral("Maria");
+    mdi.aplicaUsuario();
+    // Activation left with cmdSair: conAtiva names a file that is not there.
+    session.conAtiva = connectionString(dir.path(), QStringLiteral("Con004.mdb"), QString());
+    registerForm(QStringLiteral("frmFalhaNoLoad"), FormKind::Child, [] {
+        auto form = std::make_unique<QWidget>();
+        Connection cn;
+        cn.Open(session.conAtiva);
+        return form.release();
+    });
+    ScriptedPrompter p;
+    EXPECT_EQ(mdi.abreForm(QStringLiteral("frmFalhaNoLoad")), nullptr);
+    EXPECT_TRUE(mdi.area()->subWindowList().isEmpty());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    // The same handler covers the right's test on the system file.
+    session.conSistema = connectionString(dir.path(), QStringLiteral("Falta.mdb"), QString());
+    mdi.acao(QStringLiteral("mnuPesqfin"))->trigger();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(p.calls.empty());
+    EXPECT_FALSE(p.programEnded);
 }
 
 TEST(MainWindow, MenuCaptionsAndWindowList)
