@@ -7,13 +7,6 @@
 #include <cmath>
 #include <string>
 
-namespace {
-
-// The runtime's message for an argument out of range (a negative repeat
-// count, a character code outside 0..255).
-const QString kInvalidArgument = QStringLiteral("Chamada de procedimento ou argumento inválido");
-
-// Trim as the system trims: blanks only, not tabs or line feeds.
 QString trimBlanks(const QString &text)
 {
     qsizetype first = 0, last = text.size();
@@ -23,6 +16,12 @@ QString trimBlanks(const QString &text)
         --last;
     return text.mid(first, last - first);
 }
+
+namespace {
+
+// The runtime's message for an argument out of range (a negative repeat
+// count, a character code outside 0..255).
+const QString kInvalidArgument = QStringLiteral("Chamada de procedimento ou argumento inválido");
 
 // ---- Decimal digits of a number ----------------------------------------------
 // A number as decimal digits: value = 0.d1d2d3... x 10^point, so that `point`

@@ -23,6 +23,7 @@ private:
 };
 
 // ---- Field helpers of the system ------------------------------------------
+QString trimBlanks(const QString &text);                  // trims as the system trims: blanks only, not tabs
 QString ZeroEsq(const QString &text, int width);          // trims; longer than width: RunFailure
 QString VirgulaPonto(const QString &text);                // trims; ',' -> '.'
 double Arredonda(Money value, int places);                // floor(v*10^p + 0.5)/10^p in double

@@ -78,16 +78,6 @@ QString asterisks(qsizetype count)
     return QString(count, u'*');
 }
 
-QString trimBlanks(const QString &text)
-{
-    qsizetype first = 0, last = text.size();
-    while (first < last && text.at(first) == u' ')
-        ++first;
-    while (last > first && text.at(last - 1) == u' ')
-        --last;
-    return text.mid(first, last - first);
-}
-
 // Doubles blanks of line 1 until it is w1 wide, alternating between a search
 // forward from the start and a search backward from the end. Positions are
 // 0-based here; a search that finds nothing starts again from its own end.

@@ -12,6 +12,9 @@
 
 inline void PrintTo(const Money &m, std::ostream *os) { *os << m.toDouble(); }
 
+// UTF-8 text as a QString, short for the many literals of these tests.
+inline QString S(const char *t) { return QString::fromUtf8(t); }
+
 // "1234,56" -> Money, so that expectations read as the screen shows amounts.
 inline Money reais(const char *text) { return Money::fromDouble(val(VirgulaPonto(QString::fromUtf8(text)))); }
 

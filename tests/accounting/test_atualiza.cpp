@@ -3,11 +3,6 @@
 
 #include <vector>
 
-namespace {
-const QString kAno = QStringLiteral("2008");
-QString S(const char *t) { return QString::fromUtf8(t); }
-} // namespace
-
 // Worked by hand: 99.999,99 as a float is 99999.9921875; to currency
 // 99999.9922; plus 0,02 and rounded, 100000.01; as a float 100000.0078125,
 // whose seven digits read "100000". One cent is gone.

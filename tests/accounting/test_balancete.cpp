@@ -2,10 +2,6 @@
 #include "contabil.h"
 #include "support/scriptedprompter.h"
 
-namespace {
-QString S(const char *t) { return QString::fromUtf8(t); }
-} // namespace
-
 class Balancete : public Contabil {
 protected:
     void SetUp() override
@@ -59,18 +55,17 @@ TEST_F(Balancete, MonthIsRoundedPeriodIsNotAndBalancesComeFromTheFirstMonth)
 
 TEST_F(Balancete, MontaBalanceteGivesTheFormsMonthlyRows)
 {
+    const auto linhasRB = [&] {
+        std::vector<QStringList> r;
+        for (Recordset rs = con.Execute(S("SELECT * FROM RBalancete ORDER BY codigo")); !rs.eof(); rs.moveNext())
+            r.push_back({rs[S("codigo")].text(), rs[S("sini")].text(), rs[S("vdeb")].text(), rs[S("vcre")].text(),
+                         rs[S("sfin")].text(), rs[S("spct")].text(), rs[S("spo")].text()});
+        return r;
+    };
     ASSERT_TRUE(EncheRBalancete(con, S("03"), QString(), false, S("2008")));
-    std::vector<QStringList> doForm;
-    for (Recordset rs = con.Execute(S("SELECT * FROM RBalancete ORDER BY codigo")); !rs.eof(); rs.moveNext())
-        doForm.push_back({rs[S("codigo")].text(), rs[S("sini")].text(), rs[S("vdeb")].text(), rs[S("vcre")].text(),
-                          rs[S("sfin")].text(), rs[S("spct")].text(), rs[S("spo")].text()});
-
+    const std::vector<QStringList> doForm = linhasRB();
     Monta_Balancete(S("3"), S("2008"));  // its own connection, on conAtiva
-    std::vector<QStringList> daRotina;
-    for (Recordset rs = con.Execute(S("SELECT * FROM RBalancete ORDER BY codigo")); !rs.eof(); rs.moveNext())
-        daRotina.push_back({rs[S("codigo")].text(), rs[S("sini")].text(), rs[S("vdeb")].text(), rs[S("vcre")].text(),
-                            rs[S("sfin")].text(), rs[S("spct")].text(), rs[S("spo")].text()});
-    EXPECT_EQ(daRotina, doForm);
+    EXPECT_EQ(linhasRB(), doForm);
 
     // A month below 1 does nothing; the table keeps its rows.
     Monta_Balancete(S("0"), S("2008"));

@@ -6,7 +6,6 @@
 #include <QTemporaryDir>
 
 namespace {
-QString S(const char *t) { return QString::fromUtf8(t); }
 QString brancos(int n) { return QString(n, QLatin1Char(' ')); }
 
 std::vector<QString> buffer()

@@ -4,8 +4,6 @@
 #include "support/scriptedprompter.h"
 
 namespace {
-QString S(const char *t) { return QString::fromUtf8(t); }
-
 struct Linha {
     QString cta, data, cpartida, hist, tipolan, tiposal;
     qint64 nrlan;

@@ -3,6 +3,8 @@
 // the general digit by weights 2..9 and 11 minus the remainder (0, 10 and 11
 // give 1), the field digits by the usual modulo 10, and the typed line read
 // back into a bar code.
+#include "banks/bancos.h"
+
 #include <QString>
 #include <gtest/gtest.h>
 
@@ -57,4 +59,17 @@ inline void expectSlipLayout(const QString &barra, const QString &linha, const Q
     EXPECT_EQ(f3.right(1).toInt(), febrabanFieldDigit(f3.left(10)));
     const QString readBack = f1.left(4) + parts[3] + parts[4] + f1.mid(4, 5) + f2.left(10) + f3.left(10);
     EXPECT_EQ(readBack, barra);
+}
+
+// A slip worked out by hand: its number, free field, bar code and typed line,
+// read back by the layout with the bank, factor and value in place.
+inline void expectSlip(const Boleto &b, const QString &nrbco, const QString &livre, const QString &barra,
+                       const QString &linha, const QString &banco, const QString &fator, const QString &valor)
+{
+    EXPECT_TRUE(b.recusa.isEmpty()) << b.recusa.toStdString();
+    EXPECT_EQ(b.nrbco, nrbco);
+    EXPECT_EQ(b.campoLivre, livre);
+    EXPECT_EQ(b.barra, barra);
+    EXPECT_EQ(b.linha, linha);
+    expectSlipLayout(b.barra, b.linha, banco, fator, valor, b.campoLivre);
 }

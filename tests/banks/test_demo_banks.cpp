@@ -4,7 +4,8 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/session.h"
-#include "habtoolrun.h"
+#include "remessafields.h"
+#include "support/habtoolrun.h"
 #include "slipcheck.h"
 
 #include <QFile>
@@ -53,15 +54,13 @@ TEST(DemoBanks, RemessaAndBarrasOnTheDemoFile)
     QStringList lines = QString::fromLatin1(bytes).split(QStringLiteral("\r\n"));
     lines.removeLast();
     ASSERT_EQ(lines.size(), open.size() + 2);
-    EXPECT_EQ(lines.first().mid(26, 12), QStringLiteral("074200045826"));
-    EXPECT_EQ(lines.first().mid(76, 18), QStringLiteral("341BANCO ITAU SA  "));
+    expectFields(lines.first(), {{27, 38, "074200045826"}, {77, 94, "341BANCO ITAU SA  "}});
     for (int i = 1; i <= open.size(); ++i) {
         const QString &r = lines[i];
         EXPECT_EQ(r.size(), 400);
-        EXPECT_EQ(r.left(17), QStringLiteral("61074200045826175"));
-        EXPECT_EQ(r.mid(44, 6), open[i - 1]);
-        EXPECT_EQ(r.mid(346, 3), QStringLiteral("102"));   // the condominium has a CNPJ
-        EXPECT_EQ(r.right(6), ZeroEsq(QString::number(i + 1), 6));
+        // The condominium has a CNPJ: "102" at 347.
+        expectFields(r, {{1, 17, "61074200045826175"}, {45, 50, open[i - 1]}, {347, 349, "102"},
+                         {395, 400, ZeroEsq(QString::number(i + 1), 6)}});
     }
     EXPECT_TRUE(lines.last().startsWith(QStringLiteral("9 ")));
 

@@ -1,6 +1,6 @@
 #include "bankfile.h"
 #include "banks/bancos.h"
-#include "habtoolrun.h"
+#include "support/habtoolrun.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "bankfile.h"
 #include "core/conversions.h"
+#include "remessafields.h"
 #include "support/scriptedprompter.h"
 
 #include <QFile>
@@ -75,9 +76,8 @@ TEST(RemessaRun, Itau341WritesHeaderDetailsTrailerAndCounts)
         EXPECT_EQ(lines[i].right(6), ZeroEsq(QString::number(i + 1), 6));
     }
     EXPECT_TRUE(lines[0].startsWith(QStringLiteral("01REMESSA01COBRANCA       0057")));
-    EXPECT_EQ(lines[1].mid(37, 6), QStringLiteral("000001"));
-    EXPECT_EQ(lines[7].mid(37, 6), QStringLiteral("000007"));
-    EXPECT_EQ(lines[1].mid(234, 30), QStringLiteral("Jose Araujo").leftJustified(30));
+    expectFields(lines[1], {{38, 43, "000001"}, {235, 264, padded("Jose Araujo", 30)}});
+    EXPECT_EQ(pos(lines[7], 38, 43), QStringLiteral("000007"));
     EXPECT_TRUE(lines[8].startsWith(QStringLiteral("9 ")));
 
     EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("codbco")), QStringLiteral("341"));
@@ -114,7 +114,7 @@ TEST(RemessaRun, ExistingFileQuestion)
     }
     const QStringList lines = records(readFile(f.caminhoArquivo()));
     ASSERT_EQ(lines.size(), 4);
-    EXPECT_EQ(lines[1].mid(62, 8), QStringLiteral("00000000"));   // wallet 110
+    EXPECT_EQ(pos(lines[1], 63, 70), zeros(8));   // wallet 110
 }
 
 TEST(RemessaRun, StopsAndMessages)
@@ -198,8 +198,8 @@ TEST(RemessaRun, Safra422CounterAndWalletXX)
         EXPECT_EQ(cmdGerarR(file.con, f), FimRemessa::Gerado);
         const QStringList lines = records(readFile(f.caminhoArquivo()));
         ASSERT_EQ(lines.size(), 3);
-        EXPECT_EQ(lines[1].mid(62, 9), file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")));
-        EXPECT_EQ(lines[1].mid(62, 8), QStringLiteral("12345682"));
+        EXPECT_EQ(pos(lines[1], 63, 71), file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")));
+        EXPECT_EQ(pos(lines[1], 63, 70), QStringLiteral("12345682"));
         EXPECT_EQ(file.ritauNn(), QStringLiteral("12345682"));
     }
 }
@@ -222,23 +222,17 @@ TEST(RemessaRun, PayerTenantOrOwner)
         return records(readFile(f.caminhoArquivo())).value(row);
     };
     // 341: the tenant when the option is set and tuso is "02"; the owner otherwise.
-    QString r = detail(QStringLiteral("341"), QStringLiteral("12345-6"), true, 1);
-    EXPECT_EQ(r.mid(234, 30).trimmed(), QStringLiteral("Inquilino de 000201"));
-    EXPECT_EQ(r.mid(220, 14), QStringLiteral("00011122233344"));
-    EXPECT_EQ(r.mid(274, 40).trimmed(), QStringLiteral("Av. Brasil,2000"));
-    r = detail(QStringLiteral("341"), QStringLiteral("12345-6"), true, 2);
-    EXPECT_EQ(r.mid(234, 30).trimmed(), QStringLiteral("Outro Dono"));
-    EXPECT_EQ(r.mid(220, 14), QString(14, u'0'));
-    r = detail(QStringLiteral("341"), QStringLiteral("12345-6"), false, 1);
-    EXPECT_EQ(r.mid(234, 30).trimmed(), QStringLiteral("Dono"));
-    EXPECT_EQ(r.mid(220, 14), QStringLiteral("00098765432100"));
+    expectFields(detail(QStringLiteral("341"), QStringLiteral("12345-6"), true, 1),
+                 {{221, 234, "00011122233344"}, {235, 264, padded("Inquilino de 000201", 30)},
+                  {275, 314, padded("Av. Brasil,2000", 40)}});
+    expectFields(detail(QStringLiteral("341"), QStringLiteral("12345-6"), true, 2),
+                 {{221, 234, zeros(14)}, {235, 264, padded("Outro Dono", 30)}});
+    expectFields(detail(QStringLiteral("341"), QStringLiteral("12345-6"), false, 1),
+                 {{221, 234, "00098765432100"}, {235, 264, padded("Dono", 30)}});
     // 422: the tenant's CPF decides "02", the number comes from the tenant's CNPJ.
-    r = detail(QStringLiteral("422"), QStringLiteral("123456-7"), true, 1);
-    EXPECT_EQ(r.mid(218, 2), QStringLiteral("02"));
-    EXPECT_EQ(r.mid(220, 14), QStringLiteral("00012345678095"));
+    expectFields(detail(QStringLiteral("422"), QStringLiteral("123456-7"), true, 1), {{219, 234, "0200012345678095"}});
     // 151: postal code split, suffix before prefix.
-    r = detail(QStringLiteral("151"), QStringLiteral("1234567"), false, 1);
+    const QString r = detail(QStringLiteral("151"), QStringLiteral("1234567"), false, 1);
     EXPECT_EQ(r.size(), 400);
-    EXPECT_EQ(r.mid(271, 3), QStringLiteral("000"));
-    EXPECT_EQ(r.mid(329, 5), QStringLiteral("01001"));
+    expectFields(r, {{272, 274, "000"}, {330, 334, "01001"}});
 }

@@ -7,13 +7,30 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-// Writes doc as a PDF and returns pdftotext's text of it (-layout keeps lines).
-inline QString pdfText(const ReportDocument &doc, bool layout = true)
+// The texts of a page's text operations, in drawing order; page -1: every page.
+inline QStringList pageTexts(const ReportDocument &doc, int page = -1)
 {
-    QTemporaryDir dir;
-    const QString pdf = dir.filePath(QStringLiteral("r.pdf"));
-    if (!writePdf(doc, pdf))
-        return QStringLiteral("<no pdf>");
+    QStringList out;
+    for (int p = 0; p < doc.pageCount(); ++p)
+        if (page < 0 || p == page)
+            for (const DrawOp &op : doc.pages[size_t(p)].ops)
+                if (op.kind == DrawOp::Text)
+                    out << op.text;
+    return out;
+}
+
+// The text operation of a page that prints exactly text, or null.
+inline const DrawOp *findText(const ReportDocument &doc, int page, const QString &text)
+{
+    for (const DrawOp &op : doc.pages[size_t(page)].ops)
+        if (op.kind == DrawOp::Text && op.text == text)
+            return &op;
+    return nullptr;
+}
+
+// pdftotext's text of a PDF file (-layout keeps lines).
+inline QString pdfFileText(const QString &pdf, bool layout = true)
+{
     QProcess p;
     QStringList args;
     if (layout)
@@ -22,6 +39,14 @@ inline QString pdfText(const ReportDocument &doc, bool layout = true)
     p.start(QStringLiteral("pdftotext"), args);
     p.waitForFinished(60000);
     return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+// Writes doc as a PDF and returns pdftotext's text of it.
+inline QString pdfText(const ReportDocument &doc, bool layout = true)
+{
+    QTemporaryDir dir;
+    const QString pdf = dir.filePath(QStringLiteral("r.pdf"));
+    return writePdf(doc, pdf) ? pdfFileText(pdf, layout) : QStringLiteral("<no pdf>");
 }
 
 // The text of each page of the PDF (pages split on form feeds).

@@ -1,13 +1,13 @@
 #include "reporting/forms/frmRelatorio.h"
 
 #include "core/session.h"
+#include "reporthelpers.h"
 #include "reporting/imprime.h"
 
 #include <QFile>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -92,10 +92,7 @@ TEST(FrmRelatorio, ShowsInTheMdiAreaNavigatesZoomsAndASecondPrintReplacesTheFirs
     QTemporaryDir dir;
     const QString pdf = dir.filePath(QStringLiteral("saida.pdf"));
     ASSERT_TRUE(form->savePdf(pdf));
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
-    p.waitForFinished(60000);
-    EXPECT_TRUE(QString::fromUtf8(p.readAllStandardOutput()).contains(QStringLiteral("único Solar")));
+    EXPECT_TRUE(pdfFileText(pdf, false).contains(QStringLiteral("único Solar")));
 
     setReportViewer({});
 }

@@ -1,5 +1,6 @@
 #include "reporting/imprime.h"
 
+#include "reporthelpers.h"
 #include "support/fixtures.h"
 
 #include <QFile>
@@ -17,16 +18,6 @@ struct Viewer {
     }
     ~Viewer() { setReportViewer({}); }
 };
-
-QStringList texts(const ReportDocument &doc)
-{
-    QStringList out;
-    for (const ReportPage &p : doc.pages)
-        for (const DrawOp &op : p.ops)
-            if (op.kind == DrawOp::Text)
-                out << op.text;
-    return out;
-}
 
 class ImprimeRelatorioTest : public ::testing::Test {
 protected:
@@ -76,7 +67,7 @@ TEST_F(ImprimeRelatorioTest, RowsBecomeTextWithNullEmptyAndTheCommonFormulas)
     const ReportDocument &doc = *viewer.shown[0];
     EXPECT_EQ(doc.title, QStringLiteral("Relação de Blocos"));
     EXPECT_TRUE(doc.log.isEmpty()) << qPrintable(doc.log.join(u'\n'));
-    const QStringList t = texts(doc);
+    const QStringList t = pageTexts(doc);
     EXPECT_TRUE(t.contains(QStringLiteral("Bloco Jacarandá")));
     EXPECT_TRUE(t.contains(QStringLiteral("0101")));
     EXPECT_TRUE(t.contains(QStringLiteral("Condomínio 001 - Edifício Solar")));
@@ -96,7 +87,7 @@ TEST_F(ImprimeRelatorioTest, RowsBecomeTextWithNullEmptyAndTheCommonFormulas)
                                r[QStringLiteral("rateio")].text()};
         }));
     ASSERT_EQ(viewer.shown.size(), 2u);
-    const QStringList t2 = texts(*viewer.shown[1]);
+    const QStringList t2 = pageTexts(*viewer.shown[1]);
     EXPECT_TRUE(t2.contains(QStringLiteral("COBERTURA")));
     EXPECT_TRUE(t2.contains(QStringLiteral("0,0350")));
     EXPECT_TRUE(t2.contains(QStringLiteral("Soma dos coeficientes: 0,0475")));

@@ -12,24 +12,6 @@ ReportTemplate tpl(const QString &text)
     return parseTemplate(text, QStringLiteral("Teste.rpt"));
 }
 
-// Texts of a page's text operations, in drawing order.
-QStringList texts(const ReportDocument &doc, int page)
-{
-    QStringList out;
-    for (const DrawOp &op : doc.pages[size_t(page)].ops)
-        if (op.kind == DrawOp::Text)
-            out << op.text;
-    return out;
-}
-
-const DrawOp *findText(const ReportDocument &doc, int page, const QString &text)
-{
-    for (const DrawOp &op : doc.pages[size_t(page)].ops)
-        if (op.kind == DrawOp::Text && op.text == text)
-            return &op;
-    return nullptr;
-}
-
 const QString kListing = QStringLiteral(
     "page A4 portrait\n"
     "margins 15 10 15 10\n"
@@ -131,12 +113,12 @@ TEST(ReportRenderer, NestedGroupsCloseInnerFirstAndHeadersKeepWithTheirDetail)
     const ReportDocument doc = renderReport(t, d);
     QStringList seq;
     for (int p = 0; p < doc.pageCount(); ++p)
-        seq << texts(doc, p);
+        seq << pageTexts(doc, p);
     EXPECT_EQ(seq, (QStringList{"C 1", "M 01", "D 1", "D 2", "FM 01 3", "M 02", "D 4", "FM 02 4", "FC 1 7 3",
                                 "C 2", "M 02", "D 8", "FM 02 8", "FC 2 8 1"}));
     // 50 mm of body holds 8 bands of 6 mm: a header never ends a page alone.
     for (int p = 0; p < doc.pageCount(); ++p) {
-        const QStringList t = texts(doc, p);
+        const QStringList t = pageTexts(doc, p);
         EXPECT_FALSE(t.last().startsWith(u'C') || t.last().startsWith(u'M')) << p << qPrintable(t.join(u','));
     }
 }
@@ -153,9 +135,9 @@ TEST(ReportRenderer, PrintWhenOnItemsAndBands)
     d.columns = {QStringLiteral("codigo"), QStringLiteral("tipo"), QStringLiteral("obs")};
     d.rows = {{"1", "A", "nota"}, {"2", "X", "oculta"}, {"3", "B", " "}};
     d.formulas.insert(QStringLiteral("Caixa"), QStringLiteral("\"S\""));
-    EXPECT_EQ(texts(renderReport(t, d), 0), (QStringList{"Caixa 1", "Obs nota", "Caixa 3"}));
+    EXPECT_EQ(pageTexts(renderReport(t, d), 0), (QStringList{"Caixa 1", "Obs nota", "Caixa 3"}));
     d.setFormula(QStringLiteral("Caixa"), QStringLiteral("N"));
-    EXPECT_EQ(texts(renderReport(t, d), 0), (QStringList{"Banco 1", "Obs nota", "Banco 3"}));
+    EXPECT_EQ(pageTexts(renderReport(t, d), 0), (QStringList{"Banco 1", "Obs nota", "Banco 3"}));
 }
 
 TEST(ReportRenderer, MissingFieldsAndFormulasPrintEmptyAndAreNotedOnce)
@@ -166,7 +148,7 @@ TEST(ReportRenderer, MissingFieldsAndFormulasPrintEmptyAndAreNotedOnce)
     d.columns = {QStringLiteral("Codigo")};
     d.rows = {{"000101"}, {"000102"}, {"000103"}};
     const ReportDocument doc = renderReport(t, d);
-    EXPECT_EQ(texts(doc, 0), (QStringList{"[000101|000101||]", "[000102|000102||]", "[000103|000103||]"}));
+    EXPECT_EQ(pageTexts(doc, 0), (QStringList{"[000101|000101||]", "[000102|000102||]", "[000103|000103||]"}));
     EXPECT_EQ(doc.log, (QStringList{QStringLiteral("Campo inexistente nos dados: telefone"),
                                     QStringLiteral("Fórmula sem valor: Ausente")}));
 }
@@ -208,8 +190,8 @@ TEST(ReportRenderer, LabelsGoAcrossThenDownAndOnToNewSheets)
         d.rows.push_back({QStringLiteral("Etiqueta %1").arg(i), QStringLiteral("São Paulo")});
     const ReportDocument doc = renderReport(t, d);
     ASSERT_EQ(doc.pageCount(), 3);   // 20 a sheet
-    EXPECT_EQ(texts(doc, 0).size(), 40);
-    EXPECT_EQ(texts(doc, 2).size(), 10);
+    EXPECT_EQ(pageTexts(doc, 0).size(), 40);
+    EXPECT_EQ(pageTexts(doc, 2).size(), 10);
     const DrawOp *first = findText(doc, 0, "Etiqueta 1"), *second = findText(doc, 0, "Etiqueta 2"),
                  *third = findText(doc, 0, "Etiqueta 3"), *last = findText(doc, 0, "Etiqueta 20");
     ASSERT_TRUE(first && second && third && last);
@@ -293,7 +275,7 @@ TEST(ReportRenderer, ALargeListingPaginatesWithoutTrouble)
 {
     const ReportDocument doc = renderReport(tpl(kListing), listingData(500, 20));
     ASSERT_GT(doc.pageCount(), 200);
-    const QStringList last = texts(doc, doc.pageCount() - 1);
+    const QStringList last = pageTexts(doc, doc.pageCount() - 1);
     EXPECT_TRUE(last.contains(QStringLiteral("Total geral: 10000 unidades, 10.110.000,00"))) << qPrintable(last.join(u'\n'));
     EXPECT_TRUE(last.contains(QStringLiteral("Página %1 de %2").arg(doc.pageCount()).arg(QChar(kPageCountMark))));
 }

@@ -1,5 +1,6 @@
 #include "reporting/template.h"
 
+#include "reporthelpers.h"
 #include "reporting/renderer.h"
 #include "support/fixtures.h"
 
@@ -186,9 +187,7 @@ TEST(ReportTemplate, TheExampleOfTheDocumentationParsesAndPrints)
     d.columns = {QStringLiteral("bloco"), QStringLiteral("codgrupo"), QStringLiteral("descri"), QStringLiteral("valor")};
     d.rows = {{"A", "01", "Garagem", "10,5"}, {"A", "02", "Salão", ""}, {"B", "03", "Portaria", "4"}};
     const ReportDocument r = renderReport(t, d);
-    QStringList texts;
-    for (const DrawOp &op : r.pages[0].ops)
-        texts << op.text;
+    const QStringList texts = pageTexts(r, 0);
     EXPECT_TRUE(texts.contains(QStringLiteral("2 itens no bloco A: 10,50")));
     EXPECT_TRUE(texts.contains(QStringLiteral("Total: 3 itens, R$ 14,50")));
 }

@@ -24,14 +24,6 @@ ReportData withCommonFormulas(const QStringList &columns)
     return d;
 }
 
-bool hasText(const ReportDocument &doc, int page, const QString &text)
-{
-    for (const DrawOp &op : doc.pages[size_t(page)].ops)
-        if (op.kind == DrawOp::Text && op.text == text)
-            return true;
-    return false;
-}
-
 } // namespace
 
 TEST(ShippedTemplates, RegisterListingsShowTheCondominiumTrimmedClientAndPages)
@@ -42,7 +34,7 @@ TEST(ShippedTemplates, RegisterListingsShowTheCondominiumTrimmedClientAndPages)
     const ReportDocument b = renderReport(shipped(QStringLiteral("RBloc.rpt")), bloc);
     EXPECT_TRUE(b.log.isEmpty()) << qPrintable(b.log.join(u'\n'));
     ASSERT_EQ(b.pageCount(), 2);
-    EXPECT_TRUE(hasText(b, 0, QStringLiteral("Tevora Administradora")));   // gClient trimmed
+    EXPECT_TRUE(findText(b, 0, QStringLiteral("Tevora Administradora")));   // gClient trimmed
     const QStringList pages = pdfPages(b);
     ASSERT_EQ(pages.size(), 2);
     for (int p = 0; p < 2; ++p) {
@@ -94,7 +86,7 @@ TEST(ShippedTemplates, RegisterCardsOfUserAndLegalPerson)
     for (const char *s : {"Cadastro de Pessoa Jurídica", "Imobiliária Paulista Ltda.", "Rua Augusta, 1508 cj. 42", "12.345.678/0001-95",
                           "12/05/1970", "www.imob.com.br", "Repasses até o dia 10.", "Página 1 de 1"})
         EXPECT_TRUE(jt.contains(QString::fromUtf8(s))) << s;
-    EXPECT_TRUE(hasText(jd, 0, QStringLiteral("Imobiliária")));
+    EXPECT_TRUE(findText(jd, 0, QStringLiteral("Imobiliária")));
 }
 
 TEST(ShippedTemplates, LabelsTwentyToASheetTwoAcross)
@@ -108,10 +100,10 @@ TEST(ShippedTemplates, LabelsTwentyToASheetTwoAcross)
     EXPECT_TRUE(doc.log.isEmpty()) << qPrintable(doc.log.join(u'\n'));
     ASSERT_EQ(doc.pageCount(), 3);
     EXPECT_NEAR(doc.pageWidth(), 215.9, 0.01);
-    EXPECT_TRUE(hasText(doc, 0, QStringLiteral("Condômino 1")));
-    EXPECT_TRUE(hasText(doc, 0, QStringLiteral("Condômino 20")));
-    EXPECT_TRUE(hasText(doc, 1, QStringLiteral("Condômino 21")));
-    EXPECT_TRUE(hasText(doc, 2, QStringLiteral("Condômino 41")));
+    EXPECT_TRUE(findText(doc, 0, QStringLiteral("Condômino 1")));
+    EXPECT_TRUE(findText(doc, 0, QStringLiteral("Condômino 20")));
+    EXPECT_TRUE(findText(doc, 1, QStringLiteral("Condômino 21")));
+    EXPECT_TRUE(findText(doc, 2, QStringLiteral("Condômino 41")));
     const QStringList pages = pdfPages(doc);
     EXPECT_TRUE(pages[2].contains(QStringLiteral("Rua das Acácias, 41 apto 2")));
     EXPECT_TRUE(pages[0].contains(QStringLiteral("São Paulo - SP")));

@@ -15,25 +15,17 @@
 
 TEST(StartupFiles, EachMissingFileEndsTheProgramWithItsMessage)
 {
-    {
+    // Without Con000.mdb there is no Ajustec.mdb to take its place either.
+    for (const QString missing : {QStringLiteral("Matrix.mdb"), QStringLiteral("Con000.mdb")}) {
         TempProgramDir dir;
-        QFile::remove(dir.file(QStringLiteral("Matrix.mdb")));
+        QFile::remove(dir.file(missing));
         ScriptedPrompter p;
         EXPECT_THROW(VerificaArquivos(dir.path()), ProgramEnded);
         ASSERT_EQ(p.calls.size(), 1u);
-        EXPECT_EQ(p.calls[0].text, QStringLiteral("Matrix.mdb não está presente no diretório, Sistema Encerrado !"));
+        EXPECT_EQ(p.calls[0].text, missing + QStringLiteral(" não está presente no diretório, Sistema Encerrado !"));
         EXPECT_EQ(p.calls[0].title, QStringLiteral("Erro Fatal"));
         EXPECT_EQ(p.calls[0].style, vbCritical);
         EXPECT_TRUE(p.programEnded);
-    }
-    {
-        TempProgramDir dir;  // Con000.mdb and no Ajustec.mdb to take its place
-        QFile::remove(dir.file(QStringLiteral("Con000.mdb")));
-        ScriptedPrompter p;
-        EXPECT_THROW(VerificaArquivos(dir.path()), ProgramEnded);
-        ASSERT_EQ(p.calls.size(), 1u);
-        EXPECT_EQ(p.calls[0].text, QStringLiteral("Con000.mdb não está presente no diretório, Sistema Encerrado !"));
-        EXPECT_EQ(p.calls[0].title, QStringLiteral("Erro Fatal"));
     }
 }
 

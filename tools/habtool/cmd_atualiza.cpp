@@ -4,8 +4,6 @@
 #include "core/session.h"
 #include "tools/habtool/habtool.h"
 
-#include <QFileInfo>
-
 namespace {
 
 int cmdAtualiza(const QStringList &args)
@@ -14,10 +12,9 @@ int cmdAtualiza(const QStringList &args)
         err(QStringLiteral("uso: habtool atualiza ARQUIVO mm/aaaa"));
         return 2;
     }
-    const QFileInfo arquivo(args.at(0));
     Connection con;
     con.ConnectionTimeout = 100;
-    con.Open(connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString()));
+    con.Open(conexaoDoArquivo(args.at(0)));
     QString ultimo;
     AtualizaSaldos(con, args.at(1), [&](const Progress &p) {
         if (p.text != ultimo && !p.text.isEmpty())

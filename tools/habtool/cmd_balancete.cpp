@@ -6,8 +6,6 @@
 #include "core/val.h"
 #include "tools/habtool/habtool.h"
 
-#include <QFileInfo>
-
 namespace {
 
 int cmdBalancete(const QStringList &args)
@@ -18,10 +16,9 @@ int cmdBalancete(const QStringList &args)
         err(QStringLiteral("uso: habtool balancete ARQUIVO ANO MESINI [MESFIN]   (meses de 1 a 12, MESFIN >= MESINI)"));
         return 2;
     }
-    const QFileInfo arquivo(args.at(0));
     Connection con;
     con.ConnectionTimeout = 100;
-    con.Open(connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString()));
+    con.Open(conexaoDoArquivo(args.at(0)));
     const bool periodo = args.size() == 4;
     const bool feito = EncheRBalancete(con, args.at(2), periodo ? args.at(3) : QString(), periodo, args.at(1));
     con.Close();

@@ -7,9 +7,6 @@
 #include "core/datastore.h"
 #include "core/session.h"
 
-#include <QFileInfo>
-#include <QMap>
-
 namespace {
 int uso()
 {
@@ -19,45 +16,23 @@ int uso()
 
 int cmdBarras(const QStringList &args)
 {
-    QString arquivo;
-    QMap<QString, QString> opcoes;
-    for (qsizetype i = 0; i < args.size(); ++i) {
-        const QString &a = args[i];
-        if (a == u"--data" || a == u"--select" || a == u"--recibo") {
-            if (i + 1 >= args.size())
-                return uso();
-            opcoes[a] = args[++i];
-        } else if (arquivo.isEmpty() && !a.startsWith(u"--")) {
-            arquivo = QFileInfo(a).absoluteFilePath();
-        } else {
-            return uso();
-        }
-    }
-    if (arquivo.isEmpty())
+    Argumentos a;
+    if (!leArgumentos(args, {QStringLiteral("--data"), QStringLiteral("--select"), QStringLiteral("--recibo")}, {}, a) ||
+        a.posicionais.size() != 1)
         return uso();
-    QDate data = QDate::currentDate();
-    if (opcoes.contains(QStringLiteral("--data"))) {
-        if (!isDateText(opcoes[QStringLiteral("--data")])) {
-            err(QStringLiteral("data inválida: ") + opcoes[QStringLiteral("--data")]);
-            return 2;
-        }
-        data = dateFromText(opcoes[QStringLiteral("--data")]);
-    }
-    if (!QFileInfo::exists(arquivo)) {
-        err(QStringLiteral("arquivo não encontrado: ") + arquivo);
+    QDate data;
+    if (!leDataGeracao(a, data) || !arquivoPresente(a.posicionais[0]))
         return 2;
-    }
     Connection con;
-    const QFileInfo info(arquivo);
-    con.Open(connectionString(info.absolutePath() + QStringLiteral("/"), info.fileName(), QString()));
+    con.Open(conexaoDoArquivo(a.posicionais[0]));
 
     FormCalcBarra form;
     form.parametros = parametrosDoForm(leParametrosBanco(con));
     form.dataGeracao = data;
-    form.selecao = opcoes.value(QStringLiteral("--select"), selecaoPadraoBanco());
+    form.selecao = a.valores.value(QStringLiteral("--select"), selecaoPadraoBanco());
     FimCalcBarra fim;
-    if (opcoes.contains(QStringLiteral("--recibo")))
-        fim = cmdCalcBarra(con, form, opcoes[QStringLiteral("--recibo")]);
+    if (a.valores.contains(QStringLiteral("--recibo")))
+        fim = cmdCalcBarra(con, form, a.valores[QStringLiteral("--recibo")]);
     else
         fim = cmdCalcBarraG(con, form);
     con.Close();

@@ -7,8 +7,6 @@
 #include "core/val.h"
 #include "tools/habtool/habtool.h"
 
-#include <QFileInfo>
-
 namespace {
 
 int cmdDemonstrativo(const QStringList &args)
@@ -18,8 +16,7 @@ int cmdDemonstrativo(const QStringList &args)
         err(QStringLiteral("uso: habtool demonstrativo ARQUIVO MODELO MES ANO   (modelo 1 ou 2, mês de 1 a 12)"));
         return 2;
     }
-    const QFileInfo arquivo(args.at(0));
-    session.conAtiva = connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString());
+    session.conAtiva = conexaoDoArquivo(args.at(0));
     Monta_Balancete(args.at(2), args.at(3));
 
     Connection con;

@@ -6,8 +6,6 @@
 #include "core/session.h"
 #include "tools/habtool/habtool.h"
 
-#include <QFileInfo>
-
 namespace {
 
 int cmdPcontas(const QStringList &args)
@@ -18,10 +16,9 @@ int cmdPcontas(const QStringList &args)
         err(QStringLiteral("uso: habtool pcontas ARQUIVO ANO MES [--caixa]   (mês de 1 a 12)"));
         return 2;
     }
-    const QFileInfo arquivo(resto.at(0));
     Connection con;
     con.ConnectionTimeout = 100;
-    con.Open(connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString()));
+    con.Open(conexaoDoArquivo(resto.at(0)));
     EncheRPcontas(con, resto.at(2), resto.at(1), caixa);
     out(formatMoney(ResultadoPctEspecial(con), QStringLiteral("#,###,##0.00")));
     con.Close();

@@ -5,8 +5,6 @@
 #include "core/val.h"
 #include "tools/habtool/habtool.h"
 
-#include <QFileInfo>
-
 namespace {
 
 int cmdRazao(const QStringList &args)
@@ -31,10 +29,9 @@ int cmdRazao(const QStringList &args)
     if (contas.size() == 2)
         periodo.ctaFim = contas.at(1);
 
-    const QFileInfo arquivo(args.at(0));
     Connection con;
     con.ConnectionTimeout = 100;
-    con.Open(connectionString(arquivo.absolutePath() + QLatin1Char('/'), arquivo.fileName(), QString()));
+    con.Open(conexaoDoArquivo(args.at(0)));
     const bool feito = EncheMovRazao(con, periodo);
     con.Close();
     return feito ? 0 : 1;

@@ -11,7 +11,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMap>
 
 namespace {
 int uso()
@@ -22,42 +21,16 @@ int uso()
 
 int cmdRemessa(const QStringList &args)
 {
-    QStringList posicionais;
-    QMap<QString, QString> opcoes;
-    bool inquilino = false, sim = false;
-    for (qsizetype i = 0; i < args.size(); ++i) {
-        const QString &a = args[i];
-        if (a == u"--select" || a == u"--data") {
-            if (i + 1 >= args.size())
-                return uso();
-            opcoes[a] = args[++i];
-        } else if (a == u"--inquilino") {
-            inquilino = true;
-        } else if (a == u"--sim") {
-            sim = true;
-        } else if (a.startsWith(u"--")) {
-            return uso();
-        } else {
-            posicionais << a;
-        }
-    }
-    if (posicionais.size() != 2)
+    Argumentos a;
+    if (!leArgumentos(args, {QStringLiteral("--select"), QStringLiteral("--data")},
+                      {QStringLiteral("--inquilino"), QStringLiteral("--sim")}, a) ||
+        a.posicionais.size() != 2)
         return uso();
-    QDate data = QDate::currentDate();
-    if (opcoes.contains(QStringLiteral("--data"))) {
-        if (!isDateText(opcoes[QStringLiteral("--data")])) {
-            err(QStringLiteral("data inválida: ") + opcoes[QStringLiteral("--data")]);
-            return 2;
-        }
-        data = dateFromText(opcoes[QStringLiteral("--data")]);
-    }
-    const QFileInfo arquivo(posicionais[0]);
-    if (!arquivo.exists()) {
-        err(QStringLiteral("arquivo não encontrado: ") + arquivo.absoluteFilePath());
+    QDate data;
+    if (!leDataGeracao(a, data) || !arquivoPresente(a.posicionais[0]))
         return 2;
-    }
     Connection con;
-    con.Open(connectionString(arquivo.absolutePath() + QStringLiteral("/"), arquivo.fileName(), QString()));
+    con.Open(conexaoDoArquivo(a.posicionais[0]));
 
     const ParametrosGravados g = leParametrosBanco(con);
     FormRemessa form;
@@ -70,17 +43,17 @@ int cmdRemessa(const QStringList &args)
     form.dados.instrucao2 = g.ritaui2;
     form.dados.dataGeracao = data;
     form.nnr = g.ritaunn;
-    form.inquilino = inquilino;
-    form.selecao = opcoes.value(QStringLiteral("--select"), selecaoPadraoBanco());
+    form.inquilino = a.chaves.contains(QStringLiteral("--inquilino"));
+    form.selecao = a.valores.value(QStringLiteral("--select"), selecaoPadraoBanco());
     // The run writes folder "/" name ".TXT": OUT names the file, with or without ".TXT".
-    const QFileInfo saida(posicionais[1]);
+    const QFileInfo saida(a.posicionais[1]);
     form.pasta = QDir::cleanPath(saida.absolutePath());
     form.nomeArquivo = saida.fileName();
     if (form.nomeArquivo.endsWith(QStringLiteral(".TXT")))
         form.nomeArquivo.chop(4);
 
     HeadlessPrompter respostas;
-    respostas.yesToAll = sim;
+    respostas.yesToAll = a.chaves.contains(QStringLiteral("--sim"));
     Prompter *anterior = setPrompter(&respostas);
     FimRemessa fim;
     try {

@@ -103,21 +103,20 @@ Endereco sorteiaEndereco(Sorteio &s)
 
 QString sorteiaTelefone(Sorteio &s) { return QStringLiteral("%1-%2").arg(s.between(3000, 3999)).arg(s.between(0, 9999), 4, 10, QLatin1Char('0')); }
 
-QString sorteiaCpf(Sorteio &s)
+namespace {
+// Random digits, the first not zero.
+QString digitosSorteados(Sorteio &s, int count)
 {
     QString base;
-    for (int n = 0; n < 9; ++n)
+    for (int n = 0; n < count; ++n)
         base += QChar(u'0' + s.between(n == 0 ? 1 : 0, 9));
-    return comDigitos(base, 11);
+    return base;
 }
+} // namespace
 
-QString sorteiaCnpj(Sorteio &s)
-{
-    QString base;
-    for (int n = 0; n < 8; ++n)
-        base += QChar(u'0' + s.between(n == 0 ? 1 : 0, 9));
-    return comDigitos(base + QStringLiteral("0001"), 9);
-}
+QString sorteiaCpf(Sorteio &s) { return comDigitos(digitosSorteados(s, 9), 11); }
+
+QString sorteiaCnpj(Sorteio &s) { return comDigitos(digitosSorteados(s, 8) + QStringLiteral("0001"), 9); }
 
 Pessoa sorteiaPessoa(Sorteio &s)
 {

@@ -1,5 +1,6 @@
 #pragma once
-// Runs the built habtool and gathers its output.
+// Runs the built habtool with arguments (and, if given, text on its standard
+// input) and gathers its exit status and output.
 #include "support/fixtures.h"
 
 #include <QProcess>
@@ -11,10 +12,13 @@ struct HabtoolResult {
     QString err;
 };
 
-inline HabtoolResult habtool(const QStringList &args)
+inline HabtoolResult habtool(const QStringList &args, const QString &input = QString())
 {
     QProcess p;
     p.start(builtProgramDir() + QStringLiteral("habtool"), args);
+    if (!input.isEmpty())
+        p.write(input.toUtf8());
+    p.closeWriteChannel();
     p.waitForFinished(120000);
     HabtoolResult r;
     r.exitCode = p.exitCode();
