@@ -399,6 +399,7 @@ void mdiHabitarium::Carrega(const QString &programDir)
     applyInstallationSettings(settings);
     setWindowTitle(tituloInicial());
     session.confirmaSaida = true;
+    // PEOpenEngine: the report engine opens nothing; there is no result to ignore.
     session.cancelaGrava = false;
     EntrarSistema();
     session.cancelaGrava = false;
@@ -457,5 +458,6 @@ void mdiHabitarium::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    // PECloseEngine: nothing to close. mnuSair ends without reaching here.
     event->accept();
 }
