@@ -292,7 +292,11 @@ TEST(MainWindow, AFormThatFailsToLoadIsNotOpenedAndTheProgramGoesOn)
     session.conSistema = connectionString(dir.path(), QStringLiteral("Falta.mdb"), QString());
     mdi.acao(QStringLiteral("mnuPesqfin"))->trigger();
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    EXPECT_TRUE(p.calls.empty());
+    // Each failure says why, once, and the program goes on.
+    ASSERT_EQ(p.calls.size(), 2u);
+    EXPECT_TRUE(p.calls[0].text.startsWith(QStringLiteral("Não foi possível abrir esta função.")));
+    EXPECT_TRUE(p.calls[0].text.contains(QStringLiteral("Con004.mdb")));
+    EXPECT_EQ(p.calls[1].title, QStringLiteral("Atenção"));
     EXPECT_FALSE(p.programEnded);
 }
 
