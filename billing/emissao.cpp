@@ -5,6 +5,7 @@
 #include "core/datastore.h"
 #include "core/prompter.h"
 
+#include <algorithm>
 #include <cstdint>
 
 SelecaoEmissao montaSelecao(const QString &fsempr, QChar fordem, bool fhonor, bool temEventoFixo,
@@ -37,7 +38,9 @@ SelecaoEmissao montaSelecao(const QString &fsempr, QChar fordem, bool fhonor, bo
 
 QDate dataVencimento(int dia, const QString &fmvcto)
 {
-    for (int d = dia; d >= 1; --d) {
+    // No month has a day above 31, so a larger day walks down to 31; starting
+    // there keeps a day of three digits from overflowing the two-digit pad.
+    for (int d = std::min(dia, 31); d >= 1; --d) {
         const QDate data = dateFromText(ZeroEsq(QString::number(d), 2) + QLatin1Char('/') + fmvcto);
         if (data.isValid())
             return data;

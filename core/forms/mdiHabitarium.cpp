@@ -243,6 +243,13 @@ QAction *mdiHabitarium::acao(const QString &name) const
     return nullptr;
 }
 
+// The original handler only put the pointer back; we also say why the
+// function did not open, so that nothing fails without a word.
+static void avisaFalhaAoAbrir(const QString &motivo)
+{
+    MsgBox(QStringLiteral("Não foi possível abrir esta função.\n\n") + motivo, vbExclamation, QStringLiteral("Atenção"));
+}
+
 void mdiHabitarium::executa(const ItemMenu &item)
 {
     switch (item.acao) {
@@ -269,9 +276,11 @@ void mdiHabitarium::executa(const ItemMenu &item)
         try {
             Ampulheta ampulheta;
             permitido = TemDireito(QString::fromLatin1(item.direito));
-        } catch (const DatabaseError &) {
-            return;  // the entry's handler only puts the pointer back
-        } catch (const RunFailure &) {
+        } catch (const DatabaseError &e) {
+            avisaFalhaAoAbrir(e.message());
+            return;
+        } catch (const RunFailure &e) {
+            avisaFalhaAoAbrir(e.message());
             return;
         }
         if (!permitido) {
@@ -298,14 +307,16 @@ QWidget *mdiHabitarium::abreForm(const QString &formName)
         return nullptr;
     }
     // A form whose load fails (its file is missing, a statement fails) is not
-    // opened: the handler puts the pointer back and the program goes on.
+    // opened: the handler puts the pointer back, says why, and the program goes on.
     std::unique_ptr<QWidget> form;
     try {
         Ampulheta ampulheta;
         form.reset(entry->make());
-    } catch (const DatabaseError &) {
+    } catch (const DatabaseError &e) {
+        avisaFalhaAoAbrir(e.message());
         return nullptr;
-    } catch (const RunFailure &) {
+    } catch (const RunFailure &e) {
+        avisaFalhaAoAbrir(e.message());
         return nullptr;
     }
     if (descarregado(*form))
@@ -399,6 +410,7 @@ void mdiHabitarium::Carrega(const QString &programDir)
     applyInstallationSettings(settings);
     setWindowTitle(tituloInicial());
     session.confirmaSaida = true;
+    // PEOpenEngine: the report engine opens nothing; there is no result to ignore.
     session.cancelaGrava = false;
     EntrarSistema();
     session.cancelaGrava = false;
@@ -457,5 +469,6 @@ void mdiHabitarium::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    // PECloseEngine: nothing to close. mnuSair ends without reaching here.
     event->accept();
 }

@@ -28,6 +28,22 @@ protected:
         lanca(S("02/05/2008"), S("03.001"), S("01.001"), S("888"));  // after it
     }
 
+    // A period of 2008 as the form sends it; fields not given keep the form's blanks.
+    static RazaoPeriodo periodo(const char *mesIni, const char *mesFim = nullptr, const char *ctaIni = nullptr,
+                                const char *ctaFim = nullptr)
+    {
+        RazaoPeriodo p;
+        p.ano = S("2008");
+        p.mesIni = S(mesIni);
+        if (mesFim)
+            p.mesFim = S(mesFim);
+        if (ctaIni)
+            p.ctaIni = S(ctaIni);
+        if (ctaFim)
+            p.ctaFim = S(ctaFim);
+        return p;
+    }
+
     std::vector<Linha> movRazao()
     {
         std::vector<Linha> r;
@@ -41,11 +57,7 @@ protected:
 
 TEST_F(Razao, OpeningLinesRunningBalancesAndOrder)
 {
-    RazaoPeriodo periodo;
-    periodo.ano = S("2008");
-    periodo.mesIni = S("3");
-    periodo.mesFim = S("4");
-    ASSERT_TRUE(EncheMovRazao(con, periodo));
+    ASSERT_TRUE(EncheMovRazao(con, periodo("3", "4")));
     const std::vector<Linha> l = movRazao();
     ASSERT_EQ(l.size(), 14u);
 
@@ -94,20 +106,15 @@ TEST_F(Razao, OpeningLinesRunningBalancesAndOrder)
 
 TEST_F(Razao, AccountRangeNeedsBothEnds)
 {
-    RazaoPeriodo periodo;
-    periodo.ano = S("2008");
-    periodo.mesIni = S("03");
-    periodo.mesFim = S("04");
-    periodo.ctaIni = S("02.001");
-    periodo.ctaFim = S("02.999");
-    ASSERT_TRUE(EncheMovRazao(con, periodo));
-    const std::vector<Linha> faixa = movRazao();
-    ASSERT_EQ(faixa.size(), 5u);
-    EXPECT_EQ(faixa.front().cta, S("02.001"));
-    EXPECT_EQ(faixa.back().cta, S("02.002"));
+    RazaoPeriodo faixa = periodo("03", "04", "02.001", "02.999");
+    ASSERT_TRUE(EncheMovRazao(con, faixa));
+    const std::vector<Linha> l = movRazao();
+    ASSERT_EQ(l.size(), 5u);
+    EXPECT_EQ(l.front().cta, S("02.001"));
+    EXPECT_EQ(l.back().cta, S("02.002"));
 
-    periodo.ctaFim = S("__.___");
-    ASSERT_TRUE(EncheMovRazao(con, periodo));
+    faixa.ctaFim = S("__.___");
+    ASSERT_TRUE(EncheMovRazao(con, faixa));
     EXPECT_EQ(movRazao().size(), 14u);
 }
 
@@ -117,10 +124,7 @@ TEST_F(Razao, OneMonthJanuaryAndAnEmptyPeriod)
     // opens from sf00.
     poe(S("03.001"), S("sf00"), S("77"));
     lanca(S("31/01/2008"), S("03.001"), S("01.001"), S("3"));
-    RazaoPeriodo periodo;
-    periodo.ano = S("2008");
-    periodo.mesIni = S("1");
-    ASSERT_TRUE(EncheMovRazao(con, periodo));
+    ASSERT_TRUE(EncheMovRazao(con, periodo("1")));
     std::vector<Linha> l = movRazao();
     ASSERT_EQ(l.size(), 4u);
     EXPECT_EQ(l[2].cta, S("03.001"));
@@ -129,15 +133,13 @@ TEST_F(Razao, OneMonthJanuaryAndAnEmptyPeriod)
 
     // June has no entries: the form's message, and the table is left empty.
     ScriptedPrompter p;
-    periodo.mesIni = S("6");
-    EXPECT_FALSE(EncheMovRazao(con, periodo));
+    EXPECT_FALSE(EncheMovRazao(con, periodo("6")));
     ASSERT_EQ(p.calls.size(), 1u);
     EXPECT_EQ(p.last().text, kSemMovimento);
     EXPECT_EQ(p.last().title, S("Atenção..."));
     EXPECT_EQ(linhas(S("SELECT * FROM MovRazao")), 0);
 
     // A zero month does nothing at all.
-    periodo.mesIni = S("0");
-    EXPECT_FALSE(EncheMovRazao(con, periodo));
+    EXPECT_FALSE(EncheMovRazao(con, periodo("0")));
     EXPECT_EQ(p.calls.size(), 1u);
 }

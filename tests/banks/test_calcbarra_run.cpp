@@ -45,22 +45,22 @@ TEST(CalcBarraRun, WritesEachReceiptOfTheSelection)
 
     const Boleto expected = Banco237(ReciboBanco{QStringLiteral("000001"), Money::fromDouble(432.10), QDate(2007, 1, 15)},
                                      f.parametros);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("barrabco")), expected.barra);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("lindigbco")), expected.linha);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")), expected.nrbco);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("codbco")), QStringLiteral("237"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("demisbco")), QStringLiteral("10/01/2007"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000002"), QStringLiteral("nrbco")), QStringLiteral("06/00000000002-9"));
+    EXPECT_EQ(file.coluna("000001", "barrabco"), expected.barra);
+    EXPECT_EQ(file.coluna("000001", "lindigbco"), expected.linha);
+    EXPECT_EQ(file.coluna("000001", "nrbco"), expected.nrbco);
+    EXPECT_EQ(file.coluna("000001", "codbco"), QStringLiteral("237"));
+    EXPECT_EQ(file.coluna("000001", "demisbco"), QStringLiteral("10/01/2007"));
+    EXPECT_EQ(file.coluna("000002", "nrbco"), QStringLiteral("06/00000000002-9"));
     // A settled receipt is outside the selection.
-    EXPECT_EQ(file.coluna(QStringLiteral("000003"), QStringLiteral("barrabco")), QString());
+    EXPECT_EQ(file.coluna("000003", "barrabco"), QString());
 
     // One receipt by its number, filled to 6.
     FormCalcBarra one = form(QStringLiteral("409"), QStringLiteral("1234567"), QStringLiteral("___"));
     EXPECT_EQ(cmdCalcBarra(file.con, one, QStringLiteral("3")), FimCalcBarra::Calculado);
     EXPECT_EQ(one.selecao, QStringLiteral("SELECT * FROM recibos WHERE codigo = '000003'"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000003"), QStringLiteral("nrbco")), QStringLiteral("00000000000003-") +
-                                                                                  Modulo11Resto(QStringLiteral("00000000000003")));
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("codbco")), QStringLiteral("237"));
+    EXPECT_EQ(file.coluna("000003", "nrbco"),
+              QStringLiteral("00000000000003-") + Modulo11Resto(QStringLiteral("00000000000003")));
+    EXPECT_EQ(file.coluna("000001", "codbco"), QStringLiteral("237"));
 }
 
 TEST(CalcBarraRun, StopsAndMessages)
@@ -105,7 +105,7 @@ TEST(CalcBarraRun, StopsAndMessages)
         EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("Atenção, Não foi estabelecido o número de convênio")));
     }
     for (const char *codigo : {"000001", "000002", "000003"})
-        EXPECT_EQ(file.coluna(QString::fromLatin1(codigo), QStringLiteral("barrabco")), QString()) << codigo;
+        EXPECT_EQ(file.coluna(QString::fromLatin1(codigo), "barrabco"), QString()) << codigo;
 }
 
 // A saved empty bank code passes the occurrence test and has no rule: the
@@ -118,7 +118,7 @@ TEST(CalcBarraRun, EmptyBankCodeWritesTheWorkingFields)
     FormCalcBarra f = form(QString(), QString(), QStringLiteral("___"));
     f.trabalho.nrbco = QStringLiteral("anterior");
     EXPECT_EQ(cmdCalcBarraG(file.con, f), FimCalcBarra::Calculado);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")), QStringLiteral("anterior"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("codbco")), QString());
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("barrabco")).left(1), QStringLiteral("9"));
+    EXPECT_EQ(file.coluna("000001", "nrbco"), QStringLiteral("anterior"));
+    EXPECT_EQ(file.coluna("000001", "codbco"), QString());
+    EXPECT_EQ(file.coluna("000001", "barrabco").left(1), QStringLiteral("9"));
 }

@@ -55,16 +55,15 @@ TEST(HabtoolBanks, BarrasRunsOnACondominiumFile)
     const HabtoolResult one = habtool({"barras", file.path(), "--data", "10/01/2007", "--recibo", "45"});
     EXPECT_EQ(one.exitCode, 0) << one.err.toStdString();
     EXPECT_TRUE(one.err.contains(QStringLiteral("Código de Barra e Linha Digitável Calculada")));
-    EXPECT_EQ(file.coluna(QStringLiteral("000045"), QStringLiteral("barrabco")),
-              QStringLiteral("10496237700000150008200000045012387000000123"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000045"), QStringLiteral("nrbco")), QStringLiteral("82000000455"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000045"), QStringLiteral("demisbco")), QStringLiteral("10/01/2007"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000046"), QStringLiteral("barrabco")), QString());
+    EXPECT_EQ(file.coluna("000045", "barrabco"), QStringLiteral("10496237700000150008200000045012387000000123"));
+    EXPECT_EQ(file.coluna("000045", "nrbco"), QStringLiteral("82000000455"));
+    EXPECT_EQ(file.coluna("000045", "demisbco"), QStringLiteral("10/01/2007"));
+    EXPECT_EQ(file.coluna("000046", "barrabco"), QString());
 
     // Without a selection: the open receipts without a number, so only 000046.
     EXPECT_EQ(habtool({"barras", file.path(), "--data", "11/01/2007"}).exitCode, 0);
-    EXPECT_EQ(file.coluna(QStringLiteral("000046"), QStringLiteral("codbco")), QStringLiteral("104"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000045"), QStringLiteral("demisbco")), QStringLiteral("10/01/2007"));
+    EXPECT_EQ(file.coluna("000046", "codbco"), QStringLiteral("104"));
+    EXPECT_EQ(file.coluna("000045", "demisbco"), QStringLiteral("10/01/2007"));
     const HabtoolResult none = habtool({"barras", file.path()});
     EXPECT_EQ(none.exitCode, 1);
     EXPECT_TRUE(none.err.contains(QStringLiteral("Não há registros para esta condição !")));
@@ -97,7 +96,7 @@ TEST(HabtoolBanks, RemessaRunsOnACondominiumFile)
     EXPECT_EQ(bytes.mid(402 + 62, 9), QByteArray("123456797"));
     EXPECT_EQ(bytes.mid(402 + 234, 10), QByteArray("Ana Muller"));
     EXPECT_EQ(file.ritauNn(), QStringLiteral("12345680"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000002"), QStringLiteral("codbco")), QStringLiteral("422"));
+    EXPECT_EQ(file.coluna("000002", "codbco"), QStringLiteral("422"));
 
     // The file exists: without --sim the answer is No and the file stays.
     const HabtoolResult again = habtool({"remessa", file.path(), out, "--select", "SELECT * FROM Recibos"});

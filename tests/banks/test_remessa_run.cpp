@@ -80,12 +80,12 @@ TEST(RemessaRun, Itau341WritesHeaderDetailsTrailerAndCounts)
     EXPECT_EQ(pos(lines[7], 38, 43), QStringLiteral("000007"));
     EXPECT_TRUE(lines[8].startsWith(QStringLiteral("9 ")));
 
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("codbco")), QStringLiteral("341"));
+    EXPECT_EQ(file.coluna("000001", "codbco"), QStringLiteral("341"));
     const Boleto b = Banco341(ReciboBanco{QStringLiteral("000001"), Money::fromDouble(150.25), QDate(2007, 1, 15)},
                               f.dados.parametros);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")), b.nrbco);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("barrabco")), b.barra);
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("demisbco")), QStringLiteral("10/01/2007"));
+    EXPECT_EQ(file.coluna("000001", "nrbco"), b.nrbco);
+    EXPECT_EQ(file.coluna("000001", "barrabco"), b.barra);
+    EXPECT_EQ(file.coluna("000001", "demisbco"), QStringLiteral("10/01/2007"));
 }
 
 TEST(RemessaRun, ExistingFileQuestion)
@@ -106,7 +106,7 @@ TEST(RemessaRun, ExistingFileQuestion)
         EXPECT_EQ(prompts.calls[0].style & 7, vbYesNo);
     }
     EXPECT_EQ(readFile(f.caminhoArquivo()), QByteArray("arquivo anterior\r\n"));
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("barrabco")), QString());
+    EXPECT_EQ(file.coluna("000001", "barrabco"), QString());
     {
         ScriptedPrompter prompts;
         prompts.answer(vbYes, QStringLiteral("sobregrava"));
@@ -152,7 +152,7 @@ TEST(RemessaRun, StopsAndMessages)
         EXPECT_TRUE(QFile::exists(f.caminhoArquivo()));
         EXPECT_EQ(readFile(f.caminhoArquivo()).size(), 0);
     }
-    EXPECT_EQ(file.coluna(QStringLiteral("000001"), QStringLiteral("barrabco")), QString());
+    EXPECT_EQ(file.coluna("000001", "barrabco"), QString());
     {
         // An apartment that is not there: the receipt's columns are written,
         // the file has no trailer.
@@ -167,7 +167,7 @@ TEST(RemessaRun, StopsAndMessages)
         const QStringList lines = records(readFile(f.caminhoArquivo()));
         ASSERT_EQ(lines.size(), 3);
         EXPECT_FALSE(lines.last().startsWith(u'9'));
-        EXPECT_EQ(file.coluna(QStringLiteral("000003"), QStringLiteral("codbco")), QStringLiteral("341"));
+        EXPECT_EQ(file.coluna("000003", "codbco"), QStringLiteral("341"));
     }
 }
 
@@ -186,7 +186,7 @@ TEST(RemessaRun, Safra422CounterAndWalletXX)
         EXPECT_EQ(lines[1].right(6), QStringLiteral("000002"));
         EXPECT_EQ(f.nnr, QStringLiteral("12345681"));
         EXPECT_EQ(file.ritauNn(), QStringLiteral("12345681"));
-        EXPECT_EQ(file.coluna(QStringLiteral("000003"), QStringLiteral("nrbco")).left(8), QStringLiteral("12345681"));
+        EXPECT_EQ(file.coluna("000003", "nrbco").left(8), QStringLiteral("12345681"));
     }
     {
         // The next run starts one above the stored number.
@@ -198,7 +198,7 @@ TEST(RemessaRun, Safra422CounterAndWalletXX)
         EXPECT_EQ(cmdGerarR(file.con, f), FimRemessa::Gerado);
         const QStringList lines = records(readFile(f.caminhoArquivo()));
         ASSERT_EQ(lines.size(), 3);
-        EXPECT_EQ(pos(lines[1], 63, 71), file.coluna(QStringLiteral("000001"), QStringLiteral("nrbco")));
+        EXPECT_EQ(pos(lines[1], 63, 71), file.coluna("000001", "nrbco"));
         EXPECT_EQ(pos(lines[1], 63, 70), QStringLiteral("12345682"));
         EXPECT_EQ(file.ritauNn(), QStringLiteral("12345682"));
     }

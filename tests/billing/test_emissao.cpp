@@ -69,6 +69,8 @@ TEST(EmissaoVencimento, DayWalksBackToAValidDate)
     EXPECT_EQ(dataVencimento(5, QStringLiteral("02/2003")), QDate(2003, 2, 5));
     EXPECT_EQ(dataVencimento(Field(QVariant(), ColumnKind::Number), QStringLiteral("02/2003")), QDate(2003, 2, 1));
     EXPECT_EQ(dataVencimento(0, QStringLiteral("02/2003")), QDate(2003, 2, 1));
+    // A day typed above 99 in the fee adjustment still walks down to the last day.
+    EXPECT_EQ(dataVencimento(120, QStringLiteral("04/2003")), QDate(2003, 4, 30));
 }
 
 TEST(EmissaoAutomatica, TwoHundredApartmentsFromFnreci100)
