@@ -38,9 +38,11 @@ Money valorComReferencia(double referencia, Money valorUnitario)
     return Money::fromDouble(Arredonda(valorUnitario * referencia, 2));
 }
 
+// Receipt numbers are padded to six digits but never cut: after 999999 the
+// text grows to seven digits, and the system does not guard it.
 QString proximoNumero(const QString &numero)
 {
-    return ZeroEsq(doubleText(val(numero) + 1), 6);
+    return padZeros(doubleText(val(numero) + 1), 6);
 }
 
 QString sqlGravaFnreci(const QString &numero)
@@ -52,7 +54,7 @@ QString gravaUltimoNumero(Connection &con, const QString &atual)
 {
     if (!(val(atual) > 1))
         return QString();
-    const QString numero = ZeroEsq(doubleText(val(atual) - 1), 6);
+    const QString numero = padZeros(doubleText(val(atual) - 1), 6);
     con.Execute(sqlGravaFnreci(numero));
     return numero;
 }

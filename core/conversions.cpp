@@ -366,6 +366,12 @@ QString ZeroEsq(const QString &text, int width)
     return QString(width - trimmed.size(), u'0') + trimmed;
 }
 
+QString padZeros(const QString &text, int width)
+{
+    const QString trimmed = trimBlanks(text);
+    return trimmed.size() >= width ? trimmed : ZeroEsq(trimmed, width);
+}
+
 QString VirgulaPonto(const QString &text)
 {
     QString result = trimBlanks(text);

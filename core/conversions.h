@@ -25,6 +25,9 @@ private:
 // ---- Field helpers of the system ------------------------------------------
 QString trimBlanks(const QString &text);                  // trims as the system trims: blanks only, not tabs
 QString ZeroEsq(const QString &text, int width);          // trims; longer than width: RunFailure
+// Left-pads with zeros up to width and never cuts: a longer text stays as it
+// is. For the codes that grow past their width (receipt 1000000, Con1000.mdb).
+QString padZeros(const QString &text, int width);
 QString VirgulaPonto(const QString &text);                // trims; ',' -> '.'
 double Arredonda(Money value, int places);                // floor(v*10^p + 0.5)/10^p in double
 QString SoNumero(QString &text);                          // trims text in place; digits, ':' and the first comma

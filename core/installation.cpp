@@ -76,8 +76,7 @@ QString nomeArquivoCondominio(int codigo)
 {
     // Codes are padded to three digits; a wider code (put in the file by hand,
     // since the fields are masked "###") keeps all its digits: Con1000.mdb.
-    const QString digitos = QString::number(codigo);
-    return QStringLiteral("Con") + (digitos.size() > 3 ? digitos : ZeroEsq(digitos, 3)) + QStringLiteral(".mdb");
+    return QStringLiteral("Con") + padZeros(QString::number(codigo), 3) + QStringLiteral(".mdb");
 }
 
 void copiaMatriz(const QString &sysPath, const QString &fileName)

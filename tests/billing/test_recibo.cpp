@@ -40,6 +40,8 @@ TEST(ReciboNumeracao, NextNumberAndWriteBack)
     EXPECT_EQ(proximoNumero(QStringLiteral("000100")), QStringLiteral("000101"));
     EXPECT_EQ(proximoNumero(QString()), QStringLiteral("000001"));
     EXPECT_EQ(proximoNumero(QStringLiteral("000999")), QStringLiteral("001000"));
+    // Past 999999 the number grows to seven digits rather than failing the run.
+    EXPECT_EQ(proximoNumero(QStringLiteral("999999")), QStringLiteral("1000000"));
     EXPECT_EQ(sqlGravaFnreci(QStringLiteral("000300")),
               QStringLiteral("UPDATE Parametros Set fnreci = '000300' Where codigo = 1"));
 
