@@ -53,6 +53,32 @@ TecladoDoSistema *teclado()
 }
 }
 
+namespace {
+class FiltroPerdaDeFoco : public QObject {
+public:
+    FiltroPerdaDeFoco(QWidget *campo, std::function<void()> acao) : QObject(campo), acao_(std::move(acao))
+    {
+        campo->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusOut) {
+            const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+            if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+                acao_();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> acao_;
+};
+} // namespace
+
+void aoPerderFoco(QWidget *campo, std::function<void()> acao) { new FiltroPerdaDeFoco(campo, std::move(acao)); }
+
 void aplicaTeclado(QWidget &form)
 {
     form.installEventFilter(teclado());

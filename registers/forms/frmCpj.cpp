@@ -153,8 +153,10 @@ frmCpj::frmCpj(QWidget *parent) : RecordForm(parent)
     g->addWidget(txtObs_, 11, 1, 1, 5);
     g->setColumnStretch(3, 1);
 
-    for (QWidget *w : std::initializer_list<QWidget *>{mskCep_, txtUf_, mskCnpj_, mskCpf_})
-        w->installEventFilter(this);
+    aoPerderFoco(mskCep_, [this] { mskCep_LostFocus(); });
+    aoPerderFoco(txtUf_, [this] { txtUf_LostFocus(); });
+    aoPerderFoco(mskCnpj_, [this] { mskCnpj_LostFocus(); });
+    aoPerderFoco(mskCpf_, [this] { mskCpf_LostFocus(); });
     carrega(session.conAtiva);
 }
 
@@ -315,24 +317,6 @@ void frmCpj::imprime(const QString &codigo)
     };
     ImprimeRelatorio(cn_, rs, QStringLiteral("SELECT * FROM PJuridica WHERE codigo = ") + codigo, colunas,
                      QStringLiteral("CadJud.rpt"), QStringLiteral("Cadastro de Pessoa Jurídica"), {}, linha);
-}
-
-bool frmCpj::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
-            if (watched == mskCep_)
-                mskCep_LostFocus();
-            else if (watched == txtUf_)
-                txtUf_LostFocus();
-            else if (watched == mskCnpj_)
-                mskCnpj_LostFocus();
-            else if (watched == mskCpf_)
-                mskCpf_LostFocus();
-        }
-    }
-    return RecordForm::eventFilter(watched, event);
 }
 
 void frmCpj::mskCep_LostFocus()

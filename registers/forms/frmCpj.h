@@ -38,7 +38,6 @@ protected:
     QString mensagemCodigoInvalido() const override;
     void valoresPadrao() override;
     Pesquisa pesquisa() const override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QString tipoMarcado() const;

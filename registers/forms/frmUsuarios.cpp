@@ -136,7 +136,7 @@ frmUsuarios::frmUsuarios(QWidget *parent) : RecordForm(parent)
     connect(chkCfcon_, &QCheckBox::clicked, this, &frmUsuarios::chkCfcon_Click);
     connect(cmdTrocasen, &QPushButton::clicked, this, &frmUsuarios::cmdTrocasen_Click);
     connect(cmdPesqCli, &QPushButton::clicked, this, &frmUsuarios::cmdPesqCli_Click);
-    mskCodcli_->installEventFilter(this);
+    aoPerderFoco(mskCodcli_, [this] { mskCodcli_LostFocus(); });
     for (QCheckBox *c : {chkBdadi_, chkBdexc_, chkBdalt_, chkCfadi_, chkCfexc_, chkCfalt_, chkCfbai_})
         c->installEventFilter(this);
     carrega(session.conSistema);
@@ -322,12 +322,8 @@ bool frmUsuarios::eventFilter(QObject *watched, QEvent *event)
             chkBdcon_Click();
         else if (watched == chkCfadi_ || watched == chkCfexc_ || watched == chkCfalt_ || watched == chkCfbai_)
             chkCfcon_Click();
-    } else if (watched == mskCodcli_ && event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-            mskCodcli_LostFocus();
     }
-    return RecordForm::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
 }
 
 void frmUsuarios::mskCodcli_LostFocus()

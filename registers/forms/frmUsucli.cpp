@@ -3,6 +3,7 @@
 #include "core/anotaerro.h"
 #include "core/conversions.h"
 #include "core/installation.h"
+#include "core/widgets/keyboard.h"
 #include "core/prompter.h"
 #include "core/session.h"
 #include "core/val.h"
@@ -115,9 +116,9 @@ frmUsucli::frmUsucli(QWidget *parent) : RecordForm(parent)
     for (QWidget *w : std::initializer_list<QWidget *>{txtUf_, mskcgc_, mskCpf_, txtFone2_, txtNumero_})
         g->setAlignment(w, Qt::AlignLeft);
 
-    txtUf_->installEventFilter(this);
-    mskcgc_->installEventFilter(this);
-    mskCpf_->installEventFilter(this);
+    aoPerderFoco(txtUf_, [this] { txtUf_LostFocus(); });
+    aoPerderFoco(mskcgc_, [this] { mskcgc_LostFocus(); });
+    aoPerderFoco(mskCpf_, [this] { mskCpf_LostFocus(); });
 
     // The form works on the system file, and so, from now on, does every form
     // that opens conAtiva (frmPesquisa among them).
@@ -263,22 +264,6 @@ QString frmUsucli::mensagemAbandono() const
 RecordForm::Pesquisa frmUsucli::pesquisa() const
 {
     return {QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Condomínios"), QStringLiteral("Clientes"), 3};
-}
-
-bool frmUsucli::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
-            if (watched == txtUf_)
-                txtUf_LostFocus();
-            else if (watched == mskcgc_)
-                mskcgc_LostFocus();
-            else if (watched == mskCpf_)
-                mskCpf_LostFocus();
-        }
-    }
-    return RecordForm::eventFilter(watched, event);
 }
 
 void frmUsucli::txtUf_LostFocus()

@@ -40,7 +40,6 @@ protected:
     void antesDasRegras() override;
     void aposGravar(const QString &codigo, bool eraNovo) override;
     Pesquisa pesquisa() const override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QString cepGravado() const;

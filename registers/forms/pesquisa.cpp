@@ -82,7 +82,10 @@ PesquisaDialog::PesquisaDialog(QWidget *parent, const QString &nome, const QStri
         cmdOk_Click();
     });
     aplicaTeclado(*this);
-    txtPesq_->installEventFilter(this);
+    aoPerderFoco(txtPesq_, [this] {
+        if (!txtPesq_->text().isEmpty() && cn_.State() == 1)
+            cmdPesquisar_Click();
+    });
 
     // Load.
     cn_.ConnectionTimeout = 100;
@@ -126,16 +129,6 @@ void PesquisaDialog::cmbColuna_Change()
     tdbPesq_->horizontalHeader()->setSortIndicator(colunaEscolhida(), Qt::AscendingOrder);
 }
 
-bool PesquisaDialog::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == txtPesq_ && event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && !txtPesq_->text().isEmpty()
-            && cn_.State() == 1)
-            cmdPesquisar_Click();
-    }
-    return QDialog::eventFilter(watched, event);
-}
 
 void PesquisaDialog::cmdPesquisar_Click()
 {

@@ -32,7 +32,6 @@ public:
 protected:
     PesquisaDialog(QWidget *parent, const QString &nome, const QString &connectionString, const QList<Coluna> &colunas);
     ~PesquisaDialog() override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void done(int result) override;
 
 private:

@@ -44,7 +44,10 @@ void RecordForm::montaTela(const QString &rotuloCodigo, const QString &mascara, 
         mskCodigo_->setMascara(mascara);
         mskCodigo_->setFixedWidth(mskCodigo_->fontMetrics().horizontalAdvance(QString(mascara.size() + 2, u'0')) + 14);
     }
-    mskCodigo_->installEventFilter(this);
+    aoPerderFoco(mskCodigo_, [this] {
+        if (!carregando_ && mskCodigo_->isEnabled() && QApplication::focusWidget() != cmdSair_)
+            mskCodigo_LostFocus();
+    });
     fraDados_ = new QFrame(this);
     fraDados_->setObjectName(QStringLiteral("fraDados"));
     fraDados_->setFrameShape(QFrame::StyledPanel);
@@ -139,16 +142,6 @@ void RecordForm::focaCodigo()
     QTimer::singleShot(0, mskCodigo_, [this] { mskCodigo_->setFocus(); });
 }
 
-bool RecordForm::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == mskCodigo_ && event->type() == QEvent::FocusOut && !carregando_) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && mskCodigo_->isEnabled()
-            && QApplication::focusWidget() != cmdSair_)
-            mskCodigo_LostFocus();
-    }
-    return QWidget::eventFilter(watched, event);
-}
 
 void RecordForm::mskCodigo_LostFocus()
 {

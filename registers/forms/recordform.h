@@ -104,7 +104,6 @@ protected:
     void focaCodigo();
 
     void closeEvent(QCloseEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
     Connection cn_;
     MaskEdit *mskCodigo_ = nullptr;  // the code field, whatever its name
