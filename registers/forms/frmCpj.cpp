@@ -326,22 +326,10 @@ void frmCpj::mskCep_LostFocus()
 }
 
 void frmCpj::txtUf_LostFocus()
-{
-    if (txtUf_->text().trimmed().isEmpty() || ValidaUF(txtUf_->text()))
-        return;
-    MsgBox(QStringLiteral("Sigla do estado inválida, digite corretamente ou deixe o campo vazio"), vbCritical,
-           QStringLiteral("Erro"));
-    txtUf_->clear();
-}
+{ confereUF(txtUf_); }
 
 void frmCpj::mskCnpj_LostFocus()
-{
-    if (!mskCnpj_->textoPuro().isEmpty())
-        ValidaCGC(mskCnpj_->textoPuro());
-}
+{ confereCGC(mskCnpj_); }
 
 void frmCpj::mskCpf_LostFocus()
-{
-    if (!mskCpf_->textoPuro().isEmpty())
-        ValidaCPF(mskCpf_->textoPuro());
-}
+{ confereCPF(mskCpf_); }

@@ -267,22 +267,10 @@ RecordForm::Pesquisa frmUsucli::pesquisa() const
 }
 
 void frmUsucli::txtUf_LostFocus()
-{
-    if (txtUf_->text().trimmed().isEmpty() || ValidaUF(txtUf_->text()))
-        return;
-    MsgBox(QStringLiteral("Sigla do estado inválida, digite corretamente ou deixe o campo vazio"), vbCritical,
-           QStringLiteral("Erro"));
-    txtUf_->clear();
-}
+{ confereUF(txtUf_); }
 
 void frmUsucli::mskcgc_LostFocus()
-{
-    if (!mskcgc_->textoPuro().isEmpty())
-        ValidaCGC(mskcgc_->textoPuro());
-}
+{ confereCGC(mskcgc_); }
 
 void frmUsucli::mskCpf_LostFocus()
-{
-    if (!mskCpf_->textoPuro().isEmpty())
-        ValidaCPF(mskCpf_->textoPuro());
-}
+{ confereCPF(mskCpf_); }

@@ -18,6 +18,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QTimer>
@@ -335,3 +336,24 @@ void RecordForm::preencheGrade()
 }
 
 int RecordForm::linhaDoCodigo(const QString &codigo) const { return tdbGrade_->modelo()->linhaDe(0, codigo); }
+
+void RecordForm::confereUF(QLineEdit *campo)
+{
+    if (campo->text().trimmed().isEmpty() || ValidaUF(campo->text()))
+        return;
+    MsgBox(QStringLiteral("Sigla do estado inválida, digite corretamente ou deixe o campo vazio"), vbCritical,
+           QStringLiteral("Erro"));
+    campo->clear();
+}
+
+void RecordForm::confereCPF(const MaskEdit *campo)
+{
+    if (!campo->textoPuro().isEmpty())
+        ValidaCPF(campo->textoPuro());
+}
+
+void RecordForm::confereCGC(const MaskEdit *campo)
+{
+    if (!campo->textoPuro().isEmpty())
+        ValidaCGC(campo->textoPuro());
+}

@@ -12,6 +12,7 @@
 class Grade;
 class MaskEdit;
 class QFrame;
+class QLineEdit;
 class QPushButton;
 
 class RecordForm : public QWidget {
@@ -35,6 +36,13 @@ public:
     void tdbGrade_RowChange(int row);
 
 protected:
+    // ---- Lost-focus checks shared by the registers with an address ----
+    // A state code that Estados does not know: the message, and the field emptied.
+    static void confereUF(QLineEdit *campo);
+    // A CPF or CNPJ typed: ValidaCPF/ValidaCGC say what is wrong.
+    static void confereCPF(const MaskEdit *campo);
+    static void confereCGC(const MaskEdit *campo);
+
     // ---- What a register gives ----
     // The code as the register keeps it, from the masked text; empty when no code was typed.
     virtual QString normalizaCodigo(const QString &masked) const = 0;
