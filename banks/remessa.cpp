@@ -204,6 +204,11 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
     for (; !rs.eof(); rs.moveNext()) {
         const ReciboBanco r{rs["codigo"].text(), rs["vtotal"].toMoney(), rs["dvencto"].toDate()};
         form.trabalho = calculaBoleto(banco, r, d.parametros, contador);
+        if (!form.trabalho.recusa.isEmpty()) {
+            file.close();
+            MsgBox(form.trabalho.recusa, vbOKOnly, QStringLiteral("Atenção !"));
+            return FimRemessa::Recusado;
+        }
         con.Execute(updateRecibosBanco(d.dataGeracao, form.trabalho, banco, r.codigo));
 
         const QString codAp = rs["codap"].text();
