@@ -1,5 +1,7 @@
 #include "reporting/renderer.h"
 
+#include <optional>
+
 #include "core/conversions.h"
 #include "reporting/barcode.h"
 
@@ -9,6 +11,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSet>
+#include <optional>
 
 void ReportData::setFormula(const QString &name, const QString &value)
 {
@@ -48,12 +51,17 @@ QFont makeFont(const FontSpec &wanted)
 
 // Amounts arrive as the data store's plain text ("1234,5"); a point before a
 // comma is a thousands separator.
-Money amountOf(const QString &text)
+// Nothing when the currency cannot hold the amount.
+std::optional<Money> amountOf(const QString &text)
 {
     QString t = text.trimmed();
     if (t.contains(u','))
         t.remove(u'.');
-    return Money::fromDouble(val(VirgulaPonto(t)));
+    try {
+        return Money::fromDouble(val(VirgulaPonto(t)));
+    } catch (const std::overflow_error &) {
+        return std::nullopt;
+    }
 }
 
 bool isNumberPicture(const QString &picture)
@@ -353,8 +361,17 @@ void Layout::addToTotals(const QStringList &row)
         ++t.count;
         for (int i = 0; i < sumFields_.size(); ++i) {
             const int c = sumColumns_[size_t(i)];
-            if (c >= 0 && c < row.size())
-                t.sums[sumFields_[i]] += amountOf(row[c]);
+            if (c < 0 || c >= row.size())
+                continue;
+            // An amount beyond the currency, or a sum that would pass it, is
+            // left out of the sum and noted; the report goes on.
+            const std::optional<Money> v = amountOf(row[c]);
+            Money &sum = t.sums[sumFields_[i]];
+            int64_t total = 0;
+            if (!v || __builtin_add_overflow(sum.units(), v->units(), &total))
+                note(QStringLiteral("Valor fora da capacidade, fora da soma de %1: %2").arg(sumFields_[i], row[c]));
+            else
+                sum = Money::fromUnits(total);
         }
     };
     for (Totals &t : groupTotals_)
@@ -488,8 +505,11 @@ QString formatValue(const QString &text, const QString &picture)
         return QString();
     if (picture.contains(u'@'))
         return formatText(text, picture);
-    if (isNumberPicture(picture))
-        return formatMoney(amountOf(text), picture);
+    if (isNumberPicture(picture)) {
+        // A value the picture's number cannot hold prints as it came.
+        const std::optional<Money> amount = amountOf(text);
+        return amount ? formatMoney(*amount, picture) : text;
+    }
     if (isDatePicture(picture)) {
         const QDate d = dateFromText(text.trimmed());
         return d.isValid() ? formatDate(d, picture) : text;
