@@ -1,7 +1,5 @@
 #include "reporting/renderer.h"
 
-#include <optional>
-
 #include "core/conversions.h"
 #include "reporting/barcode.h"
 
@@ -11,6 +9,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSet>
+#include <limits>
 #include <optional>
 
 void ReportData::setFormula(const QString &name, const QString &value)
@@ -111,6 +110,14 @@ private:
     QHash<QString, int> columns_;       // lower-case name -> index
     QHash<QString, QString> formulas_;  // lower-case name -> value
     QSet<QString> noted_;
+    // The last wrapped text measured: a band that moves to the next page is
+    // prepared again, and a long text is not measured twice.
+    struct Measure {
+        int font = -1;
+        double width = 0;
+        QString text;
+        double height = 0;
+    } measured_;
     QStringList sumFields_;             // lower-case
     std::vector<int> sumColumns_;
     std::vector<QFont> fonts_;
@@ -236,9 +243,13 @@ std::vector<Prepared> Layout::prepare(const Band &band, double &height)
         if (it.kind == Item::Text || it.kind == Item::Barcode)
             p.text = resolveText(it.parts, band.group);
         if (it.kind == Item::Text && it.grow) {
-            const QFontMetricsF fm(fonts_[size_t(fontIndex(it.font))]);
-            const QRectF need = fm.boundingRect(QRectF(0, 0, it.w * kUnits, 1e7), Qt::TextWordWrap | Qt::AlignLeft, p.text);
-            p.height = std::max(it.h, need.height() / kUnits);
+            const int font = fontIndex(it.font);
+            if (measured_.font != font || measured_.width != it.w || measured_.text != p.text) {
+                const QFontMetricsF fm(fonts_[size_t(font)]);
+                const QRectF need = fm.boundingRect(QRectF(0, 0, it.w * kUnits, 1e7), Qt::TextWordWrap | Qt::AlignLeft, p.text);
+                measured_ = {font, it.w, p.text, need.height() / kUnits};
+            }
+            p.height = std::max(it.h, measured_.height);
             height = std::max(height, band.height + (p.height - it.h));
         }
         out.push_back(std::move(p));
@@ -522,6 +533,38 @@ ReportDocument renderReport(const ReportTemplate &tpl, const ReportData &data)
     return Layout(tpl, data).run();
 }
 
+namespace {
+// How much of a text can show on the page: each line holds at most the box's
+// width over the narrowest advance among its characters (with room for
+// kerning), and a wrapped text shows only the lines above the page's bottom.
+// Drawing only that keeps a text of a megabyte from being shaped whole for
+// the few lines that print. Anything the bound cannot be sure of (zero-width
+// characters, surrogates, line breaks in an unwrapped text) is drawn whole.
+qsizetype visibleLength(const QString &text, const QFontMetricsF &fm, const QRectF &box, double pageWidth,
+                        double pageBottom, bool wrap)
+{
+    if (text.size() < 4096)
+        return text.size();
+    double least = std::numeric_limits<double>::max();
+    QSet<char16_t> seen;
+    for (QChar c : text) {
+        if (seen.contains(c.unicode()))
+            continue;
+        seen.insert(c.unicode());
+        if (c.isSurrogate() || (!wrap && (c == u'\n' || c == u'\r' || c == QChar::LineSeparator)))
+            return text.size();
+        least = std::min(least, fm.horizontalAdvance(c));
+    }
+    if (least <= 0)
+        return text.size();
+    const double width = wrap ? box.width() : std::max(box.width(), pageWidth);
+    const double perLine = width / least * 1.25 + 2;
+    const double lines = wrap ? std::max(0.0, pageBottom - box.top()) / fm.lineSpacing() + 2 : 1;
+    const double bound = perLine * lines;
+    return bound < double(text.size()) ? qsizetype(bound) : text.size();
+}
+} // namespace
+
 void paintPage(QPainter &painter, const ReportDocument &doc, int index, double dotsPerMm)
 {
     if (index < 0 || index >= doc.pageCount())
@@ -552,7 +595,12 @@ void paintPage(QPainter &painter, const ReportDocument &doc, int index, double d
             painter.setPen(Qt::black);
             // A framed text keeps a small inner margin off its frame.
             const double pad = op.box ? 0.8 * kUnits : 0;
-            painter.drawText(r.adjusted(pad, 0, -pad, 0), op.flags, text);
+            const QRectF box = r.adjusted(pad, 0, -pad, 0);
+            const bool wrap = op.flags & Qt::TextWordWrap;
+            if (wrap || (op.flags & Qt::AlignLeft))
+                text.truncate(visibleLength(text, QFontMetricsF(painter.font()), box, doc.pageWidth() * kUnits,
+                                            doc.pageHeight() * kUnits, wrap));
+            painter.drawText(box, op.flags, text);
             break;
         }
         case DrawOp::Line:
