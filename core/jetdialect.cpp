@@ -740,6 +740,17 @@ double roundHalfEven(double value, int places)
 
 namespace {
 
+// A number as the statement writes it: digits, a decimal point, an exponent.
+std::optional<double> numberToken(QStringView t)
+{
+    const std::string s = t.toString().toStdString();
+    double v = 0;
+    const auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+    if (r.ec != std::errc() || r.ptr != s.data() + s.size())
+        return std::nullopt;
+    return v;
+}
+
 bool isIntegralText(QStringView t)
 {
     for (QChar c : t)
@@ -793,7 +804,7 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
         if (kind == ColumnKind::Date) {
             // A bare number meets a date column as the engine's day count
             // (0 is 30/12/1899); the fraction is the time of day.
-            const std::optional<double> v = readNumberText(token.text);
+            const std::optional<double> v = numberToken(token.text);
             const QDate d = v && std::fabs(*v) < 3e6 ? inRange(QDate(1899, 12, 30).addDays(qint64(std::floor(*v))))
                                                      : QDate();
             if (!d.isValid())
@@ -807,7 +818,7 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
             b.i = token.text.toLongLong();
             return b;
         }
-        const std::optional<double> v = readNumberText(token.text);
+        const std::optional<double> v = numberToken(token.text);
         if (!v)
             fail(kTypeMismatch, statement);
         return checkedValue(*v, kind.value_or(ColumnKind::Number), statement);

@@ -109,7 +109,7 @@ TEST(HabtoolConsole, RefusesMalformedArgumentsNamingThem)
     for (const auto &c : casos) {
         const HabtoolResult r = habtool(c.args);
         EXPECT_EQ(r.exitCode, 2) << qPrintable(c.args.join(u' '));
-        EXPECT_TRUE(r.err.startsWith(QString::fromUtf8(c.nome) + QStringLiteral(" inválido: ")))
+        EXPECT_TRUE(r.err.contains(QString::fromUtf8(c.nome) + QStringLiteral(" inválido: \"")))
             << qPrintable(c.args.join(u' ')) << " -> " << qPrintable(r.err);
         EXPECT_TRUE(r.out.isEmpty()) << qPrintable(c.args.join(u' '));
     }
