@@ -27,6 +27,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -400,14 +401,14 @@ private:
     void clica(QWidget *w, QPoint onde)
     {
         const int antes = caixas_;
+        QPointer<QWidget> alvo(w);
         QTest::mousePress(w, Qt::LeftButton, {}, onde);
-        if (caixas_ != antes) {
-            if (auto *b = qobject_cast<QAbstractButton *>(w))
-                b->setDown(false);
+        if (!alvo)
             return;
-        }
-        if (w)
-            QTest::mouseRelease(w, Qt::LeftButton, {}, onde);
+        if (caixas_ != antes)
+            if (auto *b = qobject_cast<QAbstractButton *>(w))
+                b->setDown(false);  // the release then clicks nothing
+        QTest::mouseRelease(w, Qt::LeftButton, {}, onde);
     }
 
     QAbstractItemView *vista(const QString &nome, bool agir)
@@ -425,8 +426,8 @@ private:
         for (int c = 0; c < v->model()->columnCount(); ++c)
             if (!tabela || !tabela->isColumnHidden(c))
                 colunas << c;
-        if (!qobject_cast<QTableView *>(v))
-            colunas = {v->modelColumn()};
+        if (auto *lista = qobject_cast<QListView *>(v))
+            colunas = {lista->modelColumn()};
         return colunas;
     }
 
@@ -669,6 +670,15 @@ private:
     Motorista &m_;
 };
 
+// The offscreen platform's notes on what it cannot do (raise a window...) say
+// nothing about the program; every other message goes to standard error.
+void filtraMensagens(QtMsgType tipo, const QMessageLogContext &contexto, const QString &texto)
+{
+    if (texto.startsWith(QLatin1String("This plugin does not support")))
+        return;
+    std::fprintf(stderr, "%s\n", qFormatLogMessage(tipo, contexto, texto).toUtf8().constData());
+}
+
 [[noreturn]] void uso()
 {
     std::fprintf(stderr, "uso: habdrive PROGRAM_DIR SCRIPT [--pdf DIR] [--sql]\n");
@@ -680,6 +690,7 @@ private:
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(filtraMensagens);
     Aplicacao app(argc, argv);
     preparaPrograma(app);
 
