@@ -3,6 +3,7 @@
 // fresh file (insert, find, update, list, print, delete).
 #include "support/fixtures.h"
 
+#include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/session.h"
 #include "registers/forms/recordform.h"
@@ -148,6 +149,9 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QLineEdit>
+#include <QPushButton>
+#include "core/widgets/keyboard.h"
 #include <QTest>
 #include <functional>
 
@@ -201,11 +205,14 @@ TEST(Registros, EveryRegisterIsInTheListOfDescriptions)
     EXPECT_EQ(nomes, fabricados);
 }
 
-TEST(Registros, ClosedWithTheCursorInTheCodeByCloseBoxOrAltS)
+TEST(Registros, ClosedWithTheCursorInTheCode)
 {
+    // By the close box, by Sair (as its access key does: the focus stays in
+    // the code), and destroyed while the focus is still there.
+    enum Como { CaixaDeFechar, Sair, Destruido };
     for (const auto &[nome, fabrica] : fabricas()) {
-        for (bool porAltS : {false, true}) {
-            SCOPED_TRACE(nome.toStdString() + (porAltS ? " Alt+S" : " close box"));
+        for (Como como : {CaixaDeFechar, Sair, Destruido}) {
+            SCOPED_TRACE(nome.toStdString() + " " + std::to_string(int(como)));
             AreaDeTrabalho t;
             ScriptedPrompter p;
             QPointer<QMdiSubWindow> sub = t.abre(fabrica());
@@ -214,10 +221,12 @@ TEST(Registros, ClosedWithTheCursorInTheCodeByCloseBoxOrAltS)
             QWidget *codigo = QApplication::focusWidget();
             ASSERT_NE(codigo, nullptr);
             EXPECT_TRUE(codigo->objectName().endsWith(QLatin1String("Codigo"))) << codigo->objectName().toStdString();
-            if (porAltS)
-                QTest::keyClick(codigo, Qt::Key_S, Qt::AltModifier);
-            else
+            if (como == CaixaDeFechar)
                 sub->close();
+            else if (como == Sair)
+                form->findChild<QPushButton *>(QStringLiteral("cmdSair"))->click();
+            else
+                delete sub;
             for (int i = 0; i < 5 && sub; ++i)
                 QTest::qWait(10);
             EXPECT_TRUE(sub.isNull());
@@ -231,8 +240,35 @@ TEST(Registros, ANewFormOpensInFrontOfARegisterWithAnEmptyCode)
     AreaDeTrabalho t;
     ScriptedPrompter p;
     t.abre(new frmBlocos);
-    QMdiSubWindow *segundo = t.abre(new frmTTipAp);
+    // The new form takes the focus as a click in it would.
+    auto *form = new frmTTipAp;
+    QMdiSubWindow *segundo = t.area.addSubWindow(form);
+    segundo->show();
+    form->findChild<QWidget *>(QStringLiteral("mskCodigo"))->setFocus(Qt::MouseFocusReason);
     QTest::qWait(20);
     EXPECT_EQ(t.area.activeSubWindow(), segundo);
     EXPECT_TRUE(segundo->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST(Registros, LostFocusRunsOnlyWithinAnOpenForm)
+{
+    QWidget form, outra;
+    auto *a = new QLineEdit(&form);
+    auto *b = new QLineEdit(&form);
+    auto *c = new QLineEdit(&outra);
+    int vezes = 0;
+    aoPerderFoco(a, [&vezes] { ++vezes; });
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    a->setFocus();
+    b->setFocus();
+    EXPECT_EQ(vezes, 1);  // to another control of its form
+    a->setFocus();
+    marcaFechando(form);
+    b->setFocus();
+    EXPECT_EQ(vezes, 1);  // never on a form being closed
+    outra.show();
+    c->setFocus();
+    EXPECT_EQ(vezes, 1);
 }
