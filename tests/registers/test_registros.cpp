@@ -151,6 +151,8 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include <QPointer>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSet>
 #include "core/widgets/keyboard.h"
 #include <QTest>
 #include <functional>
@@ -271,4 +273,40 @@ TEST(Registros, LostFocusRunsOnlyWithinAnOpenForm)
     outra.show();
     c->setFocus();
     EXPECT_EQ(vezes, 1);
+}
+
+TEST(Registros, EnterAfterANewCodeGoesToTheFieldsAndTabFollowsThem)
+{
+    for (const auto &[nome, fabrica] : fabricas()) {
+        SCOPED_TRACE(nome.toStdString());
+        AreaDeTrabalho t;
+        ScriptedPrompter p;
+        p.answer(vbYes, QStringLiteral("Código Não Cadastrado, Incluir Novo ?"));
+        QMdiSubWindow *sub = t.abre(fabrica());
+        auto *form = static_cast<RecordForm *>(sub->widget());
+        QWidget *codigo = QApplication::focusWidget();
+        QTest::keyClicks(codigo, QStringLiteral("77"));
+        QTest::keyClick(codigo, Qt::Key_Return);
+        QTest::qWait(10);
+        ASSERT_EQ(form->modo(), 3);
+        auto *dados = form->findChild<QWidget *>(QStringLiteral("fraDados"));
+        // Every field a clerk types in, once each, before the buttons (an
+        // option group is one stop, at whichever of its buttons).
+        QSet<QString> esperados;
+        for (QWidget *w : dados->findChildren<QWidget *>()) {
+            if (w->isEnabled() && w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !qobject_cast<QRadioButton *>(w))
+                esperados.insert(w->objectName());
+        }
+        QSet<QString> visitados;
+        QWidget *foco = QApplication::focusWidget();
+        ASSERT_TRUE(dados->isAncestorOf(foco)) << (foco ? foco->objectName().toStdString() : "nenhum");
+        for (int n = 0; foco && dados->isAncestorOf(foco) && n < 60; ++n) {
+            if (!qobject_cast<QRadioButton *>(foco))
+                visitados.insert(foco->objectName());
+            QTest::keyClick(foco, Qt::Key_Tab);
+            foco = QApplication::focusWidget();
+        }
+        EXPECT_EQ(visitados, esperados);
+        form->cmdCancelar_Click();
+    }
 }
