@@ -35,6 +35,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
+#include <utility>
 #include <vector>
 
 QString umaLinha(QString texto)
@@ -109,11 +110,14 @@ void Motorista::abreDialogo(QDialog &d)
     const QString nome = nomeDe(d);
     escreve(QStringLiteral("OPEN ") + nome);
     modais_.push_back(dialogo);
+    // The dialog is where a person acts now; the form chosen before it comes back after it.
+    const QPointer<QWidget> escolhido = std::exchange(alvo_, nullptr);
     d.show();
     ativa(&d);
     processa(false);
     executa(dialogo, true);
     modais_.pop_back();
+    alvo_ = escolhido;
     escreve(QStringLiteral("CLOSE ") + nome);
 }
 
