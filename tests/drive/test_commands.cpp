@@ -141,3 +141,40 @@ TEST(HabdriveCommands, ACommandThatCannotRunEndsTheRun)
         EXPECT_EQ(linhas.value(1), QString::fromUtf8(caso.erro)) << caso.script;
     }
 }
+
+TEST(HabdriveScript, ReadsQuotedArgumentsAndRefusesWhatIsNotWellWritten)
+{
+    QList<Comando> comandos;
+    int linha = 0;
+    QString motivo;
+    ASSERT_TRUE(leRoteiro(QStringLiteral("# a comment\r\n\n  type txtA \"a b\"\r\n"
+                                         "type txtA \"c:\\\\dir \\\"x\\\"\" \n"
+                                         "key txtA F12\ncell grd 2 3 \"\"\n"),
+                          comandos, linha, motivo))
+        << motivo.toStdString();
+    ASSERT_EQ(comandos.size(), 4);
+    EXPECT_EQ(comandos[0].linha, 3);
+    EXPECT_EQ(comandos[0].args, QStringList({QStringLiteral("txtA"), QStringLiteral("a b")}));
+    EXPECT_EQ(comandos[1].args[1], QStringLiteral("c:\\dir \"x\""));
+    EXPECT_EQ(teclaPorNome(comandos[2].args[1]), int(Qt::Key_F12));
+    EXPECT_EQ(comandos[3].args, QStringList({QStringLiteral("grd"), QStringLiteral("2"), QStringLiteral("3"), QString()}));
+
+    const struct {
+        const char *script;
+        const char *motivo;
+    } erros[] = {
+        {"login a \"b", "aspas sem fim"},
+        {"login a \"b\"c", "falta um espaço depois das aspas"},
+        {"press cmdOk", "comando desconhecido: press"},
+        {"close now", "close pede 0 argumento(s), há 1"},
+        {"toolbar 15", "o botão da barra vai de 1 a 14"},
+        {"row grd 0", "o número começa em 1"},
+        {"key txtA Home", "tecla desconhecida: Home"},
+    };
+    for (const auto &e : erros) {
+        motivo.clear();
+        EXPECT_FALSE(leRoteiro(QStringLiteral("wait\n") + QString::fromUtf8(e.script), comandos, linha, motivo)) << e.script;
+        EXPECT_EQ(linha, 2) << e.script;
+        EXPECT_EQ(motivo, QString::fromUtf8(e.motivo)) << e.script;
+    }
+}
