@@ -2,6 +2,7 @@
 
 #include "accounting/mensal.h"
 #include "core/conversions.h"
+#include "core/transaction.h"
 
 #include <QDate>
 
@@ -80,8 +81,11 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
 
     // Pass 1: everything from the base month on is wiped, synthetic accounts
     // included; only the base month gets movement again.
+    // Each pass is one step: a failure or a kill leaves the chart as it was
+    // before the pass, never half rewritten.
     p.text = kPasso1;
     mostra();
+    Transaction passo1(con);
     for (int m = mesBase; m <= 12; ++m) {
         con.Execute(QStringLiteral("UPDATE plano SET ") + colunaMes(QStringLiteral("sf"), m) + QStringLiteral(" = '0', ") +
                     colunaMes(QStringLiteral("vd"), m) + QStringLiteral(" = '0', ") + colunaMes(QStringLiteral("vc"), m) +
@@ -89,6 +93,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
         p.value = m;
         mostra();
     }
+    passo1.commit();
     p.min = 1, p.max = 12, p.value = 1;
     mostra();
 
@@ -96,9 +101,11 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     p.text = kPasso2;
     mostra();
     {
+        Transaction passo2(con);
         const int m = mesBase;
         somaLado(con, tabela, QStringLiteral("ctadeb"), colunaMes(QStringLiteral("vd"), m), periodo);
         somaLado(con, tabela, QStringLiteral("ctacre"), colunaMes(QStringLiteral("vc"), m), periodo);
+        passo2.commit();
         p.value = m;
         mostra();
     }
@@ -116,6 +123,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     p.text = kPasso3;
     mostra();
     {
+        Transaction passo3(con);
         Recordset sinteticas;
         sinteticas.Open(QStringLiteral("SELECT codigo FROM plano WHERE codigo LIKE '__.'"), con, 1, 2);
         while (!sinteticas.eof()) {
@@ -136,6 +144,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
             mostra();
             sinteticas.moveNext();
         }
+        passo3.commit();
     }
 
     p.min = 0, p.max = 12, p.value = 0;
@@ -146,6 +155,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     // base month to December; January starts from sf00.
     p.text = kPasso4;
     mostra();
+    Transaction passo4(con);
     for (int m = mesBase; m <= 12; ++m) {
         const QString sfAnterior = colunaMes(QStringLiteral("sf"), m - 1);
         const QString vdMes = colunaMes(QStringLiteral("vd"), m);
@@ -165,6 +175,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
             rs.moveNext();
         }
     }
+    passo4.commit();
 
     p.overallValue = p.overallMax;
     p.text = kAtualizacaoFinalizada;

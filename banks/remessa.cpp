@@ -4,6 +4,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
+#include "core/transaction.h"
 
 #include <QFile>
 
@@ -209,11 +210,14 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
             MsgBox(form.trabalho.recusa, vbOKOnly, QStringLiteral("Atenção !"));
             return FimRemessa::Recusado;
         }
+        // The receipt's bank fields and the read of its unit are one step.
+        Transaction passo(con);
         con.Execute(updateRecibosBanco(d.dataGeracao, form.trabalho, banco, r.codigo));
 
         const QString codAp = rs["codap"].text();
         Recordset apto = con.Execute(QStringLiteral("SELECT * FROM Aptos WHERE codigo = '") + codAp
                                      + QStringLiteral("'"));
+        passo.commit();
         if (apto.eof()) {
             // The file is left as it stands, without a trailer.
             file.close();
