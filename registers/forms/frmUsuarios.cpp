@@ -113,6 +113,14 @@ void frmUsuarios::carregaExtras(const Recordset &rs)
 
 void frmUsuarios::antesDasRegras() { PreencheVazios(*fraDados_); }
 
+void frmUsuarios::validaCampos()
+{
+    RecordForm::validaCampos();
+    // The name goes between apostrophes in the rights tests and the settlement.
+    if (!NomeUsuarioValido(ui->txtnome->text()))
+        AnotaErro(kErroFatal, kNomeUsuarioInvalido);
+}
+
 QString frmUsuarios::perguntaExclusao(const QString &) const
 {
     return QStringLiteral("Deseja Realmente Excluir Este Usuário ?");

@@ -25,6 +25,7 @@ public:
 protected:
     void valoresExtras(QHash<QString, QString> &valores) const override;
     void carregaExtras(const Recordset &rs) override;
+    void validaCampos() override;
     QString chaveImpressao() const override;
     RowFiller linhaRelatorio() const override;
     QString perguntaExclusao(const QString &codigo) const override;

@@ -9,6 +9,7 @@
 #include "core/session.h"
 #include "core/widgets/grade.h"
 #include "core/widgets/maskedit.h"
+#include "core/widgets/modal.h"
 #include "registers/forms/frmUsuarios.h"
 #include "reporting/imprime.h"
 
@@ -228,4 +229,24 @@ TEST(Usuarios, CancelClearsTheDateTheCondominiumAndThePrinter)
     EXPECT_EQ(get<MaskEdit>(form, "mskCodcli")->textoPuro(), QString());
     for (const char *o : {"optIm", "OptIj", "optIl", "optIn"})
         EXPECT_FALSE(get<QRadioButton>(form, o)->isChecked()) << o;
+}
+
+TEST(Usuarios, ANameWithAnApostropheIsRefused)
+{
+    Usuarios dir;
+    ScriptedPrompter p;
+    frmUsuarios form;
+    get<MaskEdit>(form, "mskCodigo")->setText(QStringLiteral("1"));
+    form.mskCodigo_LostFocus();
+    get<QLineEdit>(form, "txtnome")->setText(QStringLiteral("Maria D'Ávila"));
+    const ModalHandler antes = setModalHandler([](QDialog &d) {
+        d.show();
+        d.close();
+    });
+    form.cmdGravar_Click();
+    setModalHandler(antes);
+    EXPECT_EQ(session.listaErros[0][2], kNomeUsuarioInvalido);
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT nome FROM Usuarios WHERE codigo = 1"), QStringLiteral("nome")),
+              QStringLiteral("Maria"));
+    form.cmdCancelar_Click();
 }
