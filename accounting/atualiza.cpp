@@ -2,6 +2,7 @@
 
 #include "accounting/mensal.h"
 #include "core/conversions.h"
+#include "core/transaction.h"
 
 #include <QDate>
 
@@ -72,8 +73,11 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
 
     // Pass 1: everything from the base month on is wiped, synthetic accounts
     // included; only the base month gets movement again.
+    // Each pass is one step: a failure or a kill leaves the chart as it was
+    // before the pass, never half rewritten.
     p.text = kPasso1;
     mostra();
+    Transaction passo1(con);
     for (int m = mesBase; m <= 12; ++m) {
         con.Execute(QStringLiteral("UPDATE plano SET ") + colunaMes(QStringLiteral("sf"), m) + QStringLiteral(" = '0', ") +
                     colunaMes(QStringLiteral("vd"), m) + QStringLiteral(" = '0', ") + colunaMes(QStringLiteral("vc"), m) +
@@ -81,6 +85,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
         p.value = m;
         mostra();
     }
+    passo1.commit();
     p.min = 1, p.max = 12, p.value = 1;
     mostra();
 
@@ -88,6 +93,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     p.text = kPasso2;
     mostra();
     {
+        Transaction passo2(con);
         const int m = mesBase;
         const QDate inicio = primeiroDia(m, yy);
         const QDate fim(inicio.year(), m, UltimoDia(inicio).toInt());
@@ -96,6 +102,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
         const QString periodo = entre(inicio, fim);
         somaLado(con, tabela, QStringLiteral("ctadeb"), colunaMes(QStringLiteral("vd"), m), periodo);
         somaLado(con, tabela, QStringLiteral("ctacre"), colunaMes(QStringLiteral("vc"), m), periodo);
+        passo2.commit();
         p.value = m;
         mostra();
     }
@@ -113,6 +120,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     p.text = kPasso3;
     mostra();
     {
+        Transaction passo3(con);
         Recordset sinteticas;
         sinteticas.Open(QStringLiteral("SELECT codigo FROM plano WHERE codigo LIKE '__.'"), con, 1, 2);
         while (!sinteticas.eof()) {
@@ -133,6 +141,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
             mostra();
             sinteticas.moveNext();
         }
+        passo3.commit();
     }
 
     p.min = 0, p.max = 12, p.value = 0;
@@ -143,6 +152,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     // base month to December; January starts from sf00.
     p.text = kPasso4;
     mostra();
+    Transaction passo4(con);
     for (int m = mesBase; m <= 12; ++m) {
         const QString sfAnterior = colunaMes(QStringLiteral("sf"), m - 1);
         const QString vdMes = colunaMes(QStringLiteral("vd"), m);
@@ -162,6 +172,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
             rs.moveNext();
         }
     }
+    passo4.commit();
 
     p.overallValue = p.overallMax;
     p.text = kAtualizacaoFinalizada;

@@ -4,6 +4,7 @@
 #include "core/conversions.h"
 #include "core/prompter.h"
 #include "core/session.h"
+#include "core/transaction.h"
 
 namespace {
 
@@ -32,9 +33,12 @@ bool EncheRBalancete(Connection &con, const QString &mesIni, const QString &mesF
     const QString sini = colunaMes(QStringLiteral("sf"), mes - 1);
     const QString sfin = colunaMes(QStringLiteral("sf"), mes);
 
+    // Wiped and refilled in one step: a failure leaves the previous content.
+    Transaction enche(con);
     con.Execute(QStringLiteral("DELETE FROM RBalancete"));
     Recordset rs = abre(con, QStringLiteral("SELECT * FROM Plano ORDER BY codigo"));
     if (rs.eof()) {
+        enche.commit();
         if (comMensagem)
             MsgBox(kSemMovimento, vbCritical, QStringLiteral("Atenção..."));
         return false;
@@ -71,6 +75,7 @@ bool EncheRBalancete(Connection &con, const QString &mesIni, const QString &mesF
             progresso(p);
         rs.moveNext();
     }
+    enche.commit();
     return true;
 }
 
@@ -100,6 +105,7 @@ void EncheRPcontas(Connection &con, const QString &mesIni, const QString &ano, b
     const QString vc = colunaMes(QStringLiteral("vc"), mes);
     const QString po = colunaMes(QStringLiteral("po") + yy, mes);
 
+    Transaction preenchimento(con);
     con.Execute(QStringLiteral("DELETE FROM RPcontas"));
 
     enum class Grupo { Receita, Despesa, Caixa };
@@ -144,6 +150,7 @@ void EncheRPcontas(Connection &con, const QString &mesIni, const QString &ano, b
     enche(QStringLiteral("SELECT * FROM Plano WHERE tipo = 'D' ORDER BY codigo"), Grupo::Despesa);
     if (incluiSaldo)
         enche(QStringLiteral("SELECT * FROM Plano WHERE tipo = 'C' AND classe = 'C' ORDER BY codigo"), Grupo::Caixa);
+    preenchimento.commit();
 }
 
 Money ResultadoPctEspecial(Connection &con)

@@ -4,6 +4,7 @@
 #include "accounting/mensal.h"
 #include "core/conversions.h"
 #include "core/prompter.h"
+#include "core/transaction.h"
 
 #include <QDate>
 #include <cstdint>
@@ -52,6 +53,9 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
     const QDate fim(inicio.year(), mesFinal.month(), UltimoDia(mesFinal).toInt());
     const QString tabela = QStringLiteral("Mov") + periodo.ano.right(2);
 
+    // Wiped and refilled in one step: a failure (the line counter's overflow
+    // above all) leaves the previous content.
+    Transaction enche(con);
     con.Execute(QStringLiteral("DELETE FROM MovRazao"));
     Recordset mov;
     mov.Open(QStringLiteral("SELECT * FROM ") + tabela + QStringLiteral(" WHERE datalan BETWEEN #") +
@@ -59,6 +63,7 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
                  formatDate(fim, QStringLiteral("mm/dd/yyyy")) + QStringLiteral("#"),
              con, 1, 2);
     if (mov.eof()) {
+        enche.commit();
         MsgBox(kSemMovimento, vbCritical, QStringLiteral("Atenção..."));
         return false;
     }
@@ -146,5 +151,6 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
         linhas.moveNext();
         contador = proximo(contador);
     }
+    enche.commit();
     return true;
 }

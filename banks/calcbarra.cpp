@@ -3,6 +3,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
+#include "core/transaction.h"
 
 QString updateRecibosBanco(const QDate &dataGeracao, const Boleto &b, const QString &banco, const QString &codigo)
 {
@@ -42,6 +43,8 @@ FimCalcBarra cmdCalcBarraG(Connection &con, FormCalcBarra &form)
 
     for (; !rs.eof(); rs.moveNext()) {
         const QString cod = ZeroEsq(rs["codigo"].text(), 6);
+        // The receipt is read and written back as one step.
+        Transaction passo(con);
         Recordset recibo = con.Execute(QStringLiteral("SELECT * FROM recibos WHERE codigo = '") + cod
                                        + QStringLiteral("'"));
         if (recibo.eof())
@@ -64,6 +67,7 @@ FimCalcBarra cmdCalcBarraG(Connection &con, FormCalcBarra &form)
             completaBoleto(form.trabalho, banco, r);
         }
         con.Execute(updateRecibosBanco(form.dataGeracao, form.trabalho, banco, rs["codigo"].text()));
+        passo.commit();
         ++form.contagem;
     }
     MsgBox(QStringLiteral("Código de Barra e Linha Digitável Calculada, Seleção liberada para Impressão !"), vbOKOnly,

@@ -4,6 +4,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
+#include "core/transaction.h"
 
 #include <QFile>
 
@@ -204,11 +205,14 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
     for (; !rs.eof(); rs.moveNext()) {
         const ReciboBanco r{rs["codigo"].text(), rs["vtotal"].toMoney(), rs["dvencto"].toDate()};
         form.trabalho = calculaBoleto(banco, r, d.parametros, contador);
+        // The receipt's bank fields and the read of its unit are one step.
+        Transaction passo(con);
         con.Execute(updateRecibosBanco(d.dataGeracao, form.trabalho, banco, r.codigo));
 
         const QString codAp = rs["codap"].text();
         Recordset apto = con.Execute(QStringLiteral("SELECT * FROM Aptos WHERE codigo = '") + codAp
                                      + QStringLiteral("'"));
+        passo.commit();
         if (apto.eof()) {
             // The file is left as it stands, without a trailer.
             file.close();

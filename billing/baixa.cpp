@@ -4,6 +4,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
+#include "core/transaction.h"
 
 static const QString kAtencao = QStringLiteral("Atenção...");
 
@@ -112,12 +113,15 @@ Alteracao alteraRecibo(Connection &con, const ReciboEditado &r, const QString &u
     a.erros = confereRecibo(itens.size(), a.totais, r.dvencto, r.tipcob);
     if (!a.erros.empty())
         return a;
+    // The change and the undoing of the settlement are one step.
+    Transaction par(con);
     con.Execute(sqlAltera(r, itens, a.totais));
-    a.gravado = true;
     if (r.drecbto == kEmptyDate && codUsuario == kCodigoDesfazBaixa) {
         con.Execute(sqlDesfazBaixa(r.codigo));
         a.baixaDesfeita = true;
     }
+    par.commit();
+    a.gravado = true;
     return a;
 }
 

@@ -4,7 +4,9 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
+#include "core/transaction.h"
 
+#include <QStringBuilder>
 #include <algorithm>
 #include <cstdint>
 
@@ -106,8 +108,8 @@ struct Insercao {
     void item(const QString &codigo, const QString &comp, const QString &valor)
     {
         colunas += QStringLiteral("item%1,comp%1,refer%1,valor%1,").arg(slot);
-        valores += QLatin1Char('\'') + codigo + QStringLiteral("','") + comp + QStringLiteral("','0','") + valor
-            + QStringLiteral("',");
+        valores += QLatin1Char('\'') % codigo % QStringLiteral("','") % comp % QStringLiteral("','0','") % valor
+            % QStringLiteral("',");
         ++slot;
     }
 };
@@ -179,10 +181,13 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
         ap.Close();  // read; the writes below need no open statement
         TotaisRecibo t;
 
-        con.Execute(QStringLiteral("UPDATE aptos SET nemis = '") + m.fnemis + QStringLiteral("',")
-                    + QStringLiteral("demis = '") + demis + QStringLiteral("',") + QStringLiteral("nrecibo = '")
-                    + numero + QStringLiteral("'") + QStringLiteral(" Where codigo = '") + apto
-                    + QStringLiteral("'"));
+        // The unit's stamp and its receipt are one step: a kill between them
+        // leaves neither.
+        Transaction par(con);
+        con.Execute(QStringLiteral("UPDATE aptos SET nemis = '") % m.fnemis % QStringLiteral("',")
+                    % QStringLiteral("demis = '") % demis % QStringLiteral("',") % QStringLiteral("nrecibo = '")
+                    % numero % QStringLiteral("'") % QStringLiteral(" Where codigo = '") % apto
+                    % QStringLiteral("'"));
 
         Insercao ins;
         // Fee items go to vtoth whatever their event's type.
@@ -205,14 +210,15 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
         }
 
         con.Execute(QStringLiteral("INSERT INTO Recibos (codigo,codap,nemis,demis,dvencto,")
-                    + QStringLiteral("Tipcob,Tipbolbco,situacao,") + ins.colunas
-                    + QStringLiteral("vtoth,vtotr,vtott,vtotd,vtotal)") + QStringLiteral(" VALUES('") + numero
-                    + QStringLiteral("','") + apto + QStringLiteral("',\"") + m.fnemis + QStringLiteral("\",'")
-                    + demis + QStringLiteral("','") + textoData(vencto) + QStringLiteral("','") + tipcob
-                    + QStringLiteral("','") + tipbolbco + QStringLiteral("','") + situ + QStringLiteral("',")
-                    + ins.valores + QLatin1Char('\'') + textoValor(t.vtoth) + QStringLiteral("','")
-                    + textoValor(t.vtotr) + QStringLiteral("','") + textoValor(t.vtott) + QStringLiteral("','")
-                    + textoValor(t.vtotd) + QStringLiteral("','") + textoValor(t.vtotal) + QStringLiteral("')"));
+                    % QStringLiteral("Tipcob,Tipbolbco,situacao,") % ins.colunas
+                    % QStringLiteral("vtoth,vtotr,vtott,vtotd,vtotal)") % QStringLiteral(" VALUES('") % numero
+                    % QStringLiteral("','") % apto % QStringLiteral("',\"") % m.fnemis % QStringLiteral("\",'")
+                    % demis % QStringLiteral("','") % textoData(vencto) % QStringLiteral("','") % tipcob
+                    % QStringLiteral("','") % tipbolbco % QStringLiteral("','") % situ % QStringLiteral("',")
+                    % ins.valores % QLatin1Char('\'') % textoValor(t.vtoth) % QStringLiteral("','")
+                    % textoValor(t.vtotr) % QStringLiteral("','") % textoValor(t.vtott) % QStringLiteral("','")
+                    % textoValor(t.vtotd) % QStringLiteral("','") % textoValor(t.vtotal) % QStringLiteral("')"));
+        par.commit();
         ++r.emitidos;
         numero = proximoNumero(numero);
         lista.moveNext();

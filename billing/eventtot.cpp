@@ -2,9 +2,12 @@
 
 #include "billing/recibo.h"
 #include "core/datastore.h"
+#include "core/transaction.h"
 
 long encheEventtot(Connection &con, const QString &clausula)
 {
+    // Wiped and refilled in one step: a failure leaves the previous totals.
+    Transaction enche(con);
     con.Execute(QStringLiteral("DELETE FROM Eventtot"));
     Recordset rs;
     rs.Open(QStringLiteral("SELECT * FROM recibos ") + clausula, con, 1, 2);
@@ -42,5 +45,6 @@ long encheEventtot(Connection &con, const QString &clausula)
         ++n;
         rs.moveNext();
     }
+    enche.commit();
     return n;
 }

@@ -8,6 +8,7 @@
 #include "core/conversions.h"
 #include "core/jetdialect.h"
 #include "core/schemacatalog.h"
+#include "core/transaction.h"
 #include "core/val.h"
 
 #include <QFileInfo>
@@ -37,14 +38,68 @@ bool isIsoDate(QStringView t)
     return true;
 }
 
+// The file holds UTF-8: read as it is stored, not through SQLite's UTF-16 copy.
 QString columnText(sqlite3_stmt *st, int c)
 {
-    const auto *p = static_cast<const char16_t *>(sqlite3_column_text16(st, c));
-    const int bytes = sqlite3_column_bytes16(st, c);
-    return QString::fromUtf16(p, bytes / 2);
+    const auto *p = reinterpret_cast<const char *>(sqlite3_column_text(st, c));
+    if (!p)
+        return QString::fromUtf8("", 0);
+    return QString::fromUtf8(p, sqlite3_column_bytes(st, c));
+}
+
+// Writes text as UTF-8 at w, which has room for three bytes a character, and
+// gives the end; a lone surrogate becomes U+FFFD, as Qt writes it.
+char *writeUtf8(char *w, QStringView text)
+{
+    const char16_t *p = text.utf16();
+    const char16_t *const end = p + text.size();
+    while (p < end) {
+        char32_t c = *p++;
+        if (c < 0x80) {
+            *w++ = char(c);
+            continue;
+        }
+        if (c >= 0xD800 && c <= 0xDBFF && p < end && QChar::isLowSurrogate(*p)) {
+            c = QChar::surrogateToUcs4(char16_t(c), *p++);
+        } else if (c >= 0xD800 && c <= 0xDFFF) {
+            c = 0xFFFD;
+        }
+        if (c < 0x800) {
+            *w++ = char(0xC0 | (c >> 6));
+        } else if (c < 0x10000) {
+            *w++ = char(0xE0 | (c >> 12));
+            *w++ = char(0x80 | ((c >> 6) & 0x3F));
+        } else {
+            *w++ = char(0xF0 | (c >> 18));
+            *w++ = char(0x80 | ((c >> 12) & 0x3F));
+            *w++ = char(0x80 | ((c >> 6) & 0x3F));
+        }
+        *w++ = char(0x80 | (c & 0x3F));
+    }
+    return w;
 }
 
 } // namespace
+
+// A stored date "yyyy-mm-dd" read straight from the column's bytes; invalid
+// for anything else, which the caller then reads as text.
+QDate storedDate(sqlite3_stmt *st, int c)
+{
+    if (sqlite3_column_bytes(st, c) != 10)
+        return {};
+    const auto *p = sqlite3_column_text(st, c);
+    if (!p || p[4] != '-' || p[7] != '-')
+        return {};
+    int v[3] = {0, 0, 0};
+    const int from[3] = {0, 5, 8}, to[3] = {4, 7, 10};
+    for (int k = 0; k < 3; ++k)
+        for (int i = from[k]; i < to[k]; ++i) {
+            if (p[i] < '0' || p[i] > '9')
+                return {};
+            v[k] = v[k] * 10 + (p[i] - '0');
+        }
+    return QDate(v[0], v[1], v[2]);
+}
 
 // ---- Field -------------------------------------------------------------------
 
@@ -131,6 +186,10 @@ struct ColumnSet {
     QStringList names;
     QStringList origins;  // "table.column" of a plain column, empty for an expression
     std::vector<std::optional<ColumnKind>> kinds;
+    // Where a name asked for was found, by the address of the asker's text:
+    // a loop asks with the same literal each time. Checked before it is
+    // trusted, since the address of a freed text may come back with another.
+    mutable QHash<const void *, qsizetype> asked;
 };
 
 struct Prepared {
@@ -169,6 +228,9 @@ Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
         case SQLITE_FLOAT:
             return Field(QVariant(sqlite3_column_double(st, c)), ColumnKind::Number);
         default: {
+            const QDate d = storedDate(st, c);
+            if (d.isValid())
+                return Field(QVariant(d), ColumnKind::Date);
             const QString t = columnText(st, c);
             if (isIsoDate(t))
                 return Field(QVariant(QDate::fromString(t, Qt::ISODate)), ColumnKind::Date);
@@ -197,6 +259,8 @@ Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
             return Field(QVariant(sqlite3_column_double(st, c)), kind);
         break;
     case ColumnKind::Date: {
+        if (const QDate stored = storedDate(st, c); stored.isValid())
+            return Field(QVariant(stored), kind);
         const QString t = columnText(st, c);
         const QDate d = QDate::fromString(t, Qt::ISODate);
         if (d.isValid())
@@ -212,8 +276,8 @@ Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
 
 QString argText(sqlite3_value *v)
 {
-    const auto *p = static_cast<const char16_t *>(sqlite3_value_text16(v));
-    return QString::fromUtf16(p, sqlite3_value_bytes16(v) / 2);
+    const auto *p = reinterpret_cast<const char *>(sqlite3_value_text(v));
+    return p ? QString::fromUtf8(p, sqlite3_value_bytes(v)) : QString();
 }
 
 void resultText(sqlite3_context *ctx, const QString &s)
@@ -403,8 +467,33 @@ struct Connection::Impl {
     QHash<QString, std::shared_ptr<Prepared>> cache;
     QHash<QString, std::vector<ColumnDef>> tableColumns;  // by lower-case name; empty: no such table
     jet::Lexed lexed;
+    // The statements of Transaction, prepared on first use.
+    enum Step { Begin, Commit, Rollback, Savepoint, Release, RollbackTo, StepCount };
+    sqlite3_stmt *steps[StepCount] = {};
 
     static constexpr int kCacheLimit = 400;
+
+    // Runs one of the step statements; false with the engine's message kept.
+    bool stepStatement(Step step)
+    {
+        static const char *const texts[StepCount] = {"BEGIN IMMEDIATE",     "COMMIT",
+                                                     "ROLLBACK",            "SAVEPOINT hab_passo",
+                                                     "RELEASE hab_passo",   "ROLLBACK TO hab_passo"};
+        sqlite3_stmt *&st = steps[step];
+        if (!st && sqlite3_prepare_v3(db, texts[step], -1, SQLITE_PREPARE_PERSISTENT, &st, nullptr) != SQLITE_OK)
+            return false;
+        const int rc = sqlite3_step(st);
+        sqlite3_reset(st);
+        return rc == SQLITE_DONE;
+    }
+
+    void finalizeSteps()
+    {
+        for (sqlite3_stmt *&st : steps) {
+            sqlite3_finalize(st);
+            st = nullptr;
+        }
+    }
 
     const std::vector<ColumnDef> *columnsOf(const QString &table)
     {
@@ -448,8 +537,33 @@ struct Connection::Impl {
         return p;
     }
 
+    // The UTF-8 of the bound texts of one statement, kept from one statement
+    // to the next; sized before binding, so that nothing in it moves.
+    std::unique_ptr<char[]> bound;
+    size_t boundSize = 0;
+
     void bind(Prepared &p, const QString &statement)
     {
+        size_t room = 0;
+        for (const jet::Token &tok : lexed.tokens)
+            if (tok.param)
+                room += size_t(tok.text.size()) * 3 + 32;
+        if (room > boundSize) {
+            boundSize = std::max(room, boundSize * 2);
+            bound = std::make_unique<char[]>(boundSize);
+        }
+        char *used = bound.get();
+        // Text goes to SQLite as UTF-8, the file's own encoding, and stays
+        // in `bound` until the bindings are cleared after the run.
+        auto bindText = [&](int index, QStringView text) {
+            if (used + size_t(text.size()) * 3 > bound.get() + boundSize) {  // never, by the room above
+                const QByteArray copy = text.toUtf8();
+                return sqlite3_bind_text(p.stmt, index, copy.constData(), int(copy.size()), SQLITE_TRANSIENT);
+            }
+            char *const start = used;
+            used = writeUtf8(used, text);
+            return sqlite3_bind_text(p.stmt, index, start, int(used - start), SQLITE_STATIC);
+        };
         int index = 0;
         for (const jet::Token &tok : lexed.tokens) {
             if (!tok.param)
@@ -469,11 +583,11 @@ struct Connection::Impl {
                 break;
             case jet::BoundValue::Text:
                 if (!v.text.isNull())
-                    rc = sqlite3_bind_text16(p.stmt, index, v.text.utf16(), int(v.text.size() * 2), SQLITE_TRANSIENT);
+                    rc = bindText(index, v.text);
                 else if (tok.text.isEmpty())
                     rc = sqlite3_bind_text(p.stmt, index, "", 0, SQLITE_STATIC);
-                else  // the statement text outlives the run
-                    rc = sqlite3_bind_text16(p.stmt, index, tok.text.utf16(), int(tok.text.size() * 2), SQLITE_STATIC);
+                else
+                    rc = bindText(index, tok.text);
                 break;
             }
             if (rc != SQLITE_OK)
@@ -723,6 +837,7 @@ void Connection::Close()
     if (!impl_->db)
         return;
     impl_->forgetSchema();  // finalizes the cached statements
+    impl_->finalizeSteps();
     // The last connection to close checkpoints the journal into the file and
     // removes it, so that a closed file is one plain file.
     sqlite3_close_v2(impl_->db);
@@ -767,6 +882,51 @@ void Connection::createFile(const QString &path)
         }
     }
     sqlite3_close(db);
+}
+
+// ---- Transaction -------------------------------------------------------------
+// Outside a transaction, one that takes the write lock at once (so that another
+// writer waits its turn rather than failing the step half way); inside one, a
+// savepoint.
+
+Transaction::Transaction(Connection &con) : con_(con)
+{
+    Connection::Impl *c = con_.impl();
+    if (!c->db)
+        throw DatabaseError(kClosed, QString());
+    outermost_ = sqlite3_get_autocommit(c->db) != 0;
+    if (!c->stepStatement(outermost_ ? Connection::Impl::Begin : Connection::Impl::Savepoint))
+        c->fail(QString());
+    open_ = true;
+}
+
+void Transaction::commit()
+{
+    if (!open_)
+        return;
+    Connection::Impl *c = con_.impl();
+    if (!c->db)
+        throw DatabaseError(kClosed, QString());
+    if (!c->stepStatement(outermost_ ? Connection::Impl::Commit : Connection::Impl::Release))
+        c->fail(QString());
+    open_ = false;
+}
+
+Transaction::~Transaction()
+{
+    if (!open_)
+        return;
+    Connection::Impl *c = con_.impl();
+    // A failure the engine answered by rolling back the whole transaction
+    // has left nothing to go back to.
+    if (!c->db || sqlite3_get_autocommit(c->db))
+        return;
+    if (outermost_) {
+        c->stepStatement(Connection::Impl::Rollback);
+    } else {
+        c->stepStatement(Connection::Impl::RollbackTo);
+        c->stepStatement(Connection::Impl::Release);
+    }
 }
 
 // ---- Recordset ---------------------------------------------------------------
@@ -830,6 +990,10 @@ const Field &Recordset::operator[](const QString &column) const
     if (eof())
         throw DatabaseError(kNoCurrentRecord, column);
     const ColumnSet &cols = *impl_->columns;
+    const auto remembered = cols.asked.constFind(column.constData());
+    if (remembered != cols.asked.constEnd() && *remembered < cols.names.size() &&
+        cols.names[*remembered].compare(column, Qt::CaseInsensitive) == 0)
+        return impl_->cells[impl_->current * impl_->width() + size_t(*remembered)];
     qsizetype index = -1;
     for (qsizetype c = 0; c < cols.names.size() && index < 0; ++c)
         if (cols.names[c].compare(column, Qt::CaseInsensitive) == 0)
@@ -842,6 +1006,8 @@ const Field &Recordset::operator[](const QString &column) const
     if (index < 0)
         throw DatabaseError(
             QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), column);
+    if (cols.asked.size() < 256)
+        cols.asked.insert(column.constData(), index);
     return impl_->cells[impl_->current * impl_->width() + size_t(index)];
 }
 

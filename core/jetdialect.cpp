@@ -34,12 +34,51 @@ const QString kTypeMismatch = QStringLiteral("Tipo de dados incompatível na exp
 
 // ---- Lexing ----------------------------------------------------------------
 
+namespace {
+
+// An identifier against an upper-case ASCII keyword, without regard to case.
+bool isWord(const Token &t, const char *word, qsizetype size)
+{
+    if (t.type != TokenType::Identifier || t.text.size() != size)
+        return false;
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t c = t.text[i].unicode();
+        if ((c >= u'a' && c <= u'z' ? c - 32 : c) != char16_t(word[i]))
+            return false;
+    }
+    return true;
+}
+
+template <size_t N>
+bool isWord(const Token &t, const char (&word)[N])
+{
+    return isWord(t, word, qsizetype(N - 1));
+}
+
+} // namespace
+
+// One walk over the text: each token is read, marked as a parameter or not
+// (which depends on the tokens before it only) and written into the shape.
 void lex(QStringView sql, Lexed &out)
 {
     out.tokens.clear();
-    out.key.clear();
     out.cacheable = false;
     const qsizetype n = sql.size();
+    // The shape is written straight into the key's memory, kept from the last
+    // statement. Each token adds at most a blank and three characters for
+    // every one of its own ("5" gives " ?n"), so 3n + 8 always holds it.
+    out.key.resize(3 * n + 8);
+    char16_t *const keyStart = reinterpret_cast<char16_t *>(out.key.data());
+    char16_t *w = keyStart;
+    auto put = [&w](QStringView s) {
+        std::copy(s.utf16(), s.utf16() + s.size(), w);
+        w += s.size();
+    };
+    // Which literals become parameters: none in other statements, numbers of
+    // ORDER BY / GROUP BY (a bound number there would not name a column) and
+    // the file of IN '<file>' stay in the text.
+    bool byClause = false;
+    bool setClause = false;
     qsizetype i = 0;
     while (true) {
         while (i < n && sql[i].isSpace())
@@ -122,57 +161,50 @@ void lex(QStringView sql, Lexed &out)
             t.text = sql.mid(start, len);
             i += len;
         }
-        out.tokens.push_back(t);
-    }
 
-    auto &tokens = out.tokens;
-    if (!tokens.empty()) {
-        const Token &first = tokens.front();
-        out.cacheable = is(first, QLatin1StringView("SELECT")) || is(first, QLatin1StringView("INSERT")) ||
-                        is(first, QLatin1StringView("UPDATE")) || is(first, QLatin1StringView("DELETE"));
-    }
-    // Which literals become parameters: none in other statements, numbers of
-    // ORDER BY / GROUP BY (a bound number there would not name a column) and
-    // the file of IN '<file>' stay in the text.
-    bool byClause = false;
-    bool setClause = false;
-    out.key.reserve(sql.size() + 8);
-    for (size_t k = 0; k < tokens.size(); ++k) {
-        Token &t = tokens[k];
-        if (t.type == TokenType::Identifier && is(t, QLatin1StringView("BY")) && k > 0 &&
-            (is(tokens[k - 1], QLatin1StringView("ORDER")) || is(tokens[k - 1], QLatin1StringView("GROUP"))))
-            byClause = true;
-        if (t.type == TokenType::Identifier && is(t, QLatin1StringView("SET")))
-            setClause = true;
-        if (t.type == TokenType::Identifier && is(t, QLatin1StringView("WHERE")))
-            setClause = false;
+        const Token *prev = out.tokens.empty() ? nullptr : &out.tokens.back();
+        if (!prev)
+            out.cacheable = isWord(t, "SELECT") || isWord(t, "INSERT") || isWord(t, "UPDATE") || isWord(t, "DELETE");
+        if (t.type == TokenType::Identifier) {
+            if (prev && isWord(t, "BY") && (isWord(*prev, "ORDER") || isWord(*prev, "GROUP")))
+                byClause = true;
+            if (isWord(t, "SET"))
+                setClause = true;
+            if (isWord(t, "WHERE"))
+                setClause = false;
+        }
         if (out.cacheable && isLiteral(t)) {
-            const bool fileName = t.type == TokenType::Text && k > 0 && is(tokens[k - 1], QLatin1StringView("IN"));
+            const bool fileName = t.type == TokenType::Text && prev && isWord(*prev, "IN");
             const bool byNumber = t.type == TokenType::Number && byClause;
             // An empty text compared with a column is no number and no date:
             // it stays text, so that "not diavcto = ''" holds for every day
             // that is there. Written by SET it still means Null.
-            const bool emptyCompared = t.type == TokenType::Text && t.text.isEmpty() && !setClause && k > 0 &&
-                                       tokens[k - 1].type == TokenType::Operator &&
-                                       (tokens[k - 1].text == u"=" || tokens[k - 1].text == u"<>");
+            const bool emptyCompared = t.type == TokenType::Text && t.text.isEmpty() && !setClause && prev &&
+                                       prev->type == TokenType::Operator &&
+                                       (prev->text == u"=" || prev->text == u"<>");
             t.param = !fileName && !byNumber && !emptyCompared;
         }
-        if (k > 0)
-            out.key += u' ';
+
+        if (prev)
+            *w++ = u' ';
         if (t.param) {
-            out.key += t.type == TokenType::Text ? u"?s" : t.type == TokenType::Number ? u"?n" : u"?d";
+            *w++ = u'?';
+            *w++ = t.type == TokenType::Text ? u's' : t.type == TokenType::Number ? u'n' : u'd';
+        } else if (t.type == TokenType::Text) {
+            const char16_t q = t.doubleQuoted ? u'"' : u'\'';
+            *w++ = q;
+            put(t.text);
+            *w++ = q;
+        } else if (t.type == TokenType::Date) {
+            *w++ = u'#';
+            put(t.text);
+            *w++ = u'#';
         } else {
-            if (t.type == TokenType::Text)
-                out.key += t.doubleQuoted ? u'"' : u'\'';
-            else if (t.type == TokenType::Date)
-                out.key += u'#';
-            out.key += t.text;
-            if (t.type == TokenType::Text)
-                out.key += t.doubleQuoted ? u'"' : u'\'';
-            else if (t.type == TokenType::Date)
-                out.key += u'#';
+            put(t.text);
         }
+        out.tokens.push_back(t);
     }
+    out.key.resize(w - keyStart);
 }
 
 QString literalText(const Token &token)
@@ -700,6 +732,20 @@ bool isIntegralText(QStringView t)
     return !t.isEmpty() && t.size() <= 18;
 }
 
+// "yyyy-mm-dd" of a date of four-digit year, without a trip through QLocale.
+QString isoText(const QDate &d)
+{
+    int y = 0, m = 0, day = 0;
+    d.getDate(&y, &m, &day);
+    if (y < 1000 || y > 9999)
+        return d.toString(Qt::ISODate);
+    const char16_t s[10] = {char16_t(u'0' + y / 1000),     char16_t(u'0' + y / 100 % 10), char16_t(u'0' + y / 10 % 10),
+                            char16_t(u'0' + y % 10),       u'-',
+                            char16_t(u'0' + m / 10),       char16_t(u'0' + m % 10),       u'-',
+                            char16_t(u'0' + day / 10),     char16_t(u'0' + day % 10)};
+    return QString(reinterpret_cast<const QChar *>(s), 10);
+}
+
 BoundValue numberValue(double v, ColumnKind kind)
 {
     BoundValue b;
@@ -747,7 +793,7 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
             fail(QStringLiteral("Erro de sintaxe na data na expressão de consulta."), statement);
         b.type = BoundValue::Text;
         // A date written to a text column is kept as the screen shows it.
-        b.text = kind == ColumnKind::Text ? d.toString(QStringLiteral("dd/MM/yyyy")) : d.toString(Qt::ISODate);
+        b.text = kind == ColumnKind::Text ? d.toString(QStringLiteral("dd/MM/yyyy")) : isoText(d);
         return b;
     }
     case TokenType::Text:
@@ -762,7 +808,8 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
             b.text = literalText(token);
         return b;
     }
-    const QString text = literalText(token).trimmed();
+    const QString unescaped = token.escaped ? literalText(token) : QString();
+    const QStringView text = (token.escaped ? QStringView(unescaped) : token.text).trimmed();
     if (text.isEmpty())
         return b;  // Null
     switch (*kind) {
@@ -771,11 +818,11 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
         if (!d.isValid())
             fail(kTypeMismatch, statement);
         b.type = BoundValue::Text;
-        b.text = d.toString(Qt::ISODate);
+        b.text = isoText(d);
         return b;
     }
     case ColumnKind::Boolean: {
-        const QString t = text.toLower();
+        const QString t = text.toString().toLower();
         if (t == u"true" || t == u"verdadeiro" || t == u"sim")
             return numberValue(1, ColumnKind::Boolean);
         if (t == u"false" || t == u"falso" || t == u"não" || t == u"nao")

@@ -1,5 +1,7 @@
 #include "core/forms/frmAtempr.h"
 
+#include "core/forms/abrepesquisa.h"
+
 #include "core/conversions.h"
 #include "core/forms/formcatalog.h"
 #include "core/prompter.h"
@@ -99,24 +101,9 @@ void frmAtempr::mskCodcli_LostFocus()
 
 void frmAtempr::cmdPesqCli_Click()
 {
-    const FormEntry *pesquisa = findForm(QStringLiteral("frmPesqGeral"));
-    if (!pesquisa) {
-        MsgBox(QStringLiteral("A pesquisa de condomínios ainda não está disponível nesta versão do sistema."),
-               vbInformation, QStringLiteral("Atenção"));
+    if (!abrePesquisa(this, QStringLiteral("frmPesqGeral"), QStringLiteral("Pesquisa de Condomínios"),
+                      QStringLiteral("Clientes")))
         return;
-    }
-    session.tituloPesq = QStringLiteral("Pesquisa de Condomínios");
-    session.tabPesq = QStringLiteral("Clientes");
-    std::unique_ptr<QWidget> form(pesquisa->make());
-    auto *dialog = qobject_cast<QDialog *>(form.get());
-    if (!dialog)
-        return;
-    dialog->setParent(this, Qt::Dialog);
-    showModal(*dialog);
-    if (session.cancelaGrava) {
-        session.cancelaGrava = false;
-        return;
-    }
     mskCodcli_->setText(ZeroEsq(session.valorPesq, 3));
     lblNome_->setText(nomeDoCondominio(QString::number(qint64(val(session.valorPesq)))));
 }

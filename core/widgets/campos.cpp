@@ -9,7 +9,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QPlainTextEdit>
 
 namespace {
@@ -39,6 +41,16 @@ void LimpaCampos(QWidget &container)
             e->clear();
         } else if (auto *c = qobject_cast<QCheckBox *>(w)) {
             c->setChecked(false);
+        } else if (auto *o = qobject_cast<QRadioButton *>(w)) {
+            // An option group keeps one button checked unless told otherwise.
+            const bool exclusivo = o->autoExclusive();
+            o->setAutoExclusive(false);
+            o->setChecked(false);
+            o->setAutoExclusive(exclusivo);
+        } else if (auto *l = qobject_cast<QLabel *>(w)) {
+            // A framed label shows a value of the record; a plain one is a caption.
+            if (l->frameShape() != QFrame::NoFrame)
+                l->clear();
         } else if (auto *t = qobject_cast<QPlainTextEdit *>(w)) {
             t->clear();
         } else if (auto *cb = qobject_cast<QComboBox *>(w)) {

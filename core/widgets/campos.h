@@ -3,7 +3,8 @@
 #include <QWidget>
 
 // Empties every field by its kind: a text, combo or masked field to the empty
-// text, a check box unchecked, a number field to 0, a date field to its empty
+// text, a check box and an option button unchecked, a framed label (a value
+// shown, not a caption) emptied, a number field to 0, a date field to its empty
 // prompts ("__/__/____", a year field "____"; a month-and-year field is left
 // as it is).
 void LimpaCampos(QWidget &container);

@@ -9,6 +9,7 @@
 
 class DateField : public MaskEdit {
     Q_OBJECT
+    Q_PROPERTY(QDate minimo READ minimo WRITE setMinimo)
 public:
     enum Formato { DiaMesAno, MesAno, Ano };
     explicit DateField(QWidget *parent = nullptr, Formato formato = DiaMesAno);
@@ -17,6 +18,7 @@ public:
     void setFormato(Formato formato);
     // Limits; an invalid QDate is no limit.
     void setMinimo(const QDate &d) { minimo_ = d; }
+    QDate minimo() const { return minimo_; }
     void setMaximo(const QDate &d) { maximo_ = d; }
 
     bool vazio() const;

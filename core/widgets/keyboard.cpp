@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -66,7 +67,11 @@ protected:
     {
         if (event->type() == QEvent::FocusOut) {
             const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-            if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            // Qt has already moved the focus when the field hears that it lost it.
+            QWidget *form = formDe(static_cast<QWidget *>(watched));
+            QWidget *novo = QApplication::focusWidget();
+            if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && form && !fechando(*form)
+                && novo && form->isAncestorOf(novo))
                 acao_();
         }
         return QObject::eventFilter(watched, event);
@@ -78,6 +83,19 @@ private:
 } // namespace
 
 void aoPerderFoco(QWidget *campo, std::function<void()> acao) { new FiltroPerdaDeFoco(campo, std::move(acao)); }
+
+void marcaFechando(QWidget &form) { form.setProperty("habFechando", true); }
+
+bool fechando(const QWidget &form) { return form.property("habFechando").toBool(); }
+
+QWidget *formDe(QWidget *controle)
+{
+    for (QWidget *w = controle; w; w = w->parentWidget()) {
+        if (w->isWindow() || qobject_cast<QMdiSubWindow *>(w->parentWidget()))
+            return w;
+    }
+    return nullptr;
+}
 
 void aplicaTeclado(QWidget &form)
 {

@@ -10,9 +10,16 @@ void aplicaTeclado(QWidget &form);
 
 // The system acts on the "lost focus" of a field. Qt emits no editingFinished
 // for an incomplete mask, so this watches the focus-out event instead: `acao`
-// runs when the field loses the focus to another control, not when the
-// window itself loses it or a popup opens.
+// runs when the field loses the focus to another control of its own form;
+// not when the window loses it, a popup opens, the user goes to another form,
+// or the form is closing.
 void aoPerderFoco(QWidget *campo, std::function<void()> acao);
+// A form that is being closed or destroyed: its lost-focus checks stop.
+void marcaFechando(QWidget &form);
+bool fechando(const QWidget &form);
+// The form a control belongs to: its window, or the child of the main
+// window's work area that holds it.
+QWidget *formDe(QWidget *controle);
 
 // The hourglass for the length of a piece of work.
 class Ampulheta {

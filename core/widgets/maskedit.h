@@ -6,6 +6,7 @@
 
 class MaskEdit : public QLineEdit {
     Q_OBJECT
+    Q_PROPERTY(QString mascara READ mascara WRITE setMascara)
 public:
     explicit MaskEdit(QWidget *parent = nullptr);
     // "###" style mask; the empty text becomes the mask with '_' for each '#'.

@@ -8,6 +8,7 @@
 
 class NumberField : public QLineEdit {
     Q_OBJECT
+    Q_PROPERTY(QString picture READ picture WRITE setPicture)
 public:
     explicit NumberField(QWidget *parent = nullptr, const QString &picture = QStringLiteral("#,##0.00"));
 

@@ -1,26 +1,34 @@
 #include "registers/forms/frmBlocos.h"
 
-#include "core/anotaerro.h"
-#include "core/session.h"
-#include "core/widgets/keyboard.h"
-#include "core/widgets/maskedit.h"
-#include "reporting/imprime.h"
+#include "ui_frmBlocos.h"
 
-#include <QFormLayout>
-#include <QFrame>
-#include <QLineEdit>
-
-frmBlocos::frmBlocos(QWidget *parent) : RecordForm(parent)
+const Registro &frmBlocos::descricao()
 {
-    setObjectName(QStringLiteral("frmBlocos"));
-    setWindowTitle(QStringLiteral("Cadastro de Blocos"));
-    montaTela(QStringLiteral("Código:"), QStringLiteral("####"));
-    txtDescri_ = new QLineEdit(fraDados_);
-    txtDescri_->setObjectName(QStringLiteral("txtDescri"));
-    txtDescri_->setMaxLength(50);
-    auto *layout = new QFormLayout(fraDados_);
-    layout->addRow(QStringLiteral("Descrição:"), txtDescri_);
-    carrega(session.conAtiva);
+    static const Registro r{
+        .form = QStringLiteral("frmBlocos"),
+        .busca = QStringLiteral("SELECT * FROM Grupos Where codgrupo = '{codigo}'"),
+        .existe = QStringLiteral("SELECT codgrupo FROM Grupos Where codgrupo = '{codigo}'"),
+        .contagem = QStringLiteral("SELECT Count(codgrupo) As I FROM Grupos"),
+        .lista = QStringLiteral("SELECT * FROM grupos ORDER BY codgrupo"),
+        .insere = QStringLiteral("INSERT INTO Grupos(codgrupo,Grupo,Descri) VALUES('{codigo}',{grupo},'{txtDescri}')"),
+        .altera = QStringLiteral("Update Grupos Set Descri = '{txtDescri}' Where codgrupo = '{codigo}'"),
+        .apaga = QStringLiteral("DELETE * FROM Grupos WHERE codgrupo = '{codigo}'"),
+        .campos = {{QStringLiteral("txtDescri"), QStringLiteral("descri")}},
+        .calculados = {QStringLiteral("grupo")},
+        .obrigatorios = {{QStringLiteral("txtDescri"), QStringLiteral("O Campo Descrição é Obrigatório !")}},
+        .colunasGrade = {QStringLiteral("codgrupo"), QStringLiteral("descri"), QStringLiteral("grupo")},
+        .titulosGrade = {QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Tipo")},
+        .relatorio = {QStringLiteral("SELECT codgrupo,descri FROM Grupos"),
+                      {QStringLiteral("codgrupo"), QStringLiteral("descri")}, QStringLiteral("RBloc.rpt"),
+                      QStringLiteral("Relação de Blocos")},
+    };
+    return r;
+}
+
+frmBlocos::frmBlocos(QWidget *parent) : RecordForm(descricao(), parent)
+{
+    Ui::frmBlocos().setupUi(this);
+    carrega();
 }
 
 QString frmBlocos::normalizaCodigo(const QString &masked) const
@@ -34,53 +42,16 @@ QString frmBlocos::normalizaCodigo(const QString &masked) const
     return QString();
 }
 
-QString frmBlocos::sqlBusca(const QString &c) const { return QStringLiteral("SELECT * FROM Grupos Where codgrupo = '") + c + u'\''; }
-QString frmBlocos::sqlExiste(const QString &c) const { return QStringLiteral("SELECT codgrupo FROM Grupos Where codgrupo = '") + c + u'\''; }
-QString frmBlocos::sqlContagem() const { return QStringLiteral("SELECT Count(codgrupo) As I FROM Grupos"); }
-QString frmBlocos::sqlLista() const { return QStringLiteral("SELECT * FROM grupos ORDER BY codgrupo"); }
-
-QString frmBlocos::sqlInsert(const QString &c) const
+void frmBlocos::valoresExtras(QHash<QString, QString> &valores) const
 {
-    return QStringLiteral("INSERT INTO Grupos(codgrupo,Grupo,Descri)") + QStringLiteral(" VALUES('") + c + QStringLiteral("',")
-        + (c.size() == 2 ? QStringLiteral("True,") : QStringLiteral("False,")) + u'\'' + txtDescri_->text() + QStringLiteral("')");
-}
-
-QString frmBlocos::sqlUpdate(const QString &c) const
-{
-    return QStringLiteral("Update Grupos Set Descri = '") + txtDescri_->text() + u'\'' + QStringLiteral(" Where codgrupo = '") + c + u'\'';
-}
-
-QString frmBlocos::sqlDelete(const QString &c) const { return QStringLiteral("DELETE * FROM Grupos WHERE codgrupo = '") + c + u'\''; }
-
-void frmBlocos::carregaCampos(const Recordset &rs) { txtDescri_->setText(rs[QStringLiteral("descri")].text()); }
-
-void frmBlocos::validaCampos()
-{
-    if (txtDescri_->text().trimmed().isEmpty())
-        AnotaErro(kErroFatal, QStringLiteral("O Campo Descrição é Obrigatório !"));
+    // A code of two digits is a block, of four a subgroup.
+    valores.insert(QStringLiteral("grupo"), valores.value(QStringLiteral("codigo")).size() == 2 ? QStringLiteral("True")
+                                                                                              : QStringLiteral("False"));
 }
 
 QStringList frmBlocos::linhaGrade(const Recordset &rs) const
 {
-    return {rs[QStringLiteral("codgrupo")].text(), rs[QStringLiteral("descri")].text(),
-            rs[QStringLiteral("grupo")].toBool() ? QStringLiteral("Bloco") : QStringLiteral("Subgrupo")};
-}
-
-QStringList frmBlocos::titulosGrade() const { return {QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Tipo")}; }
-
-void frmBlocos::imprime(const QString &)
-{
-    Recordset rs;
-    Ampulheta ampulheta;
-    ImprimeRelatorio(cn_, rs, QStringLiteral("SELECT codgrupo,descri FROM Grupos"),
-                     {QStringLiteral("codgrupo"), QStringLiteral("descri")}, QStringLiteral("RBloc.rpt"),
-                     QStringLiteral("Relação de Blocos"));
-}
-
-QWidget *frmBlocos::primeiroCampo() const { return txtDescri_; }
-
-void frmBlocos::poeCodigo(const QString &codigo)
-{
-    // A code of two digits is shown as "01__"; the mask stays "####".
-    mskCodigo_->setText(codigo);
+    QStringList cells = RecordForm::linhaGrade(rs);
+    cells[2] = rs[QStringLiteral("grupo")].toBool() ? QStringLiteral("Bloco") : QStringLiteral("Subgrupo");
+    return cells;
 }

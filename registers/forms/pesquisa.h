@@ -47,8 +47,4 @@ private:
     Grade *tdbPesq_;
 };
 
-// Opens the search dialog of that name over a table, with a title, as the
-// callers do. True when a code was chosen: it is in session.valorPesq. On a
-// cancel the caller's part is done here: cancelaGrava is reset, and false
-// comes back.
-bool abrePesquisa(QWidget *parent, const QString &dialogo, const QString &titulo, const QString &tabela);
+#include "core/forms/abrepesquisa.h"  // the road into these dialogs

@@ -6,116 +6,189 @@
 #include "core/prompter.h"
 #include "core/session.h"
 #include "core/val.h"
+#include "core/widgets/campos.h"
+#include "core/widgets/datefield.h"
 #include "core/widgets/grade.h"
 #include "core/widgets/keyboard.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/modal.h"
+#include "core/widgets/numberfield.h"
 #include "registers/forms/pesquisa.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
-#include <QFocusEvent>
+#include <QComboBox>
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpressionValidator>
 #include <QTimer>
-#include <QVBoxLayout>
 
-RecordForm::RecordForm(QWidget *parent) : QWidget(parent) {}
+RecordForm::RecordForm(const Registro &registro, QWidget *parent) : QWidget(parent), registro_(registro) {}
 
 RecordForm::~RecordForm()
 {
+    // Lost-focus checks never run on a form that is going away.
+    marcaFechando(*this);
     if (cn_.State() == 1)
         cn_.Close();
 }
 
-void RecordForm::montaTela(const QString &rotuloCodigo, const QString &mascara, int digitos)
+QWidget *RecordForm::controle(const QString &nome) const
 {
-    mskCodigo_ = new MaskEdit(this);
-    if (mascara.isEmpty()) {
-        mskCodigo_->setObjectName(QStringLiteral("txtCodigo"));
+    auto *w = findChild<QWidget *>(nome);
+    if (!w)
+        throw RunFailure(objectName() + QStringLiteral(": controle não encontrado: ") + nome);
+    return w;
+}
+
+void RecordForm::carrega()
+{
+    mskCodigo_ = findChild<MaskEdit *>(QStringLiteral("mskCodigo"));
+    if (!mskCodigo_)
+        mskCodigo_ = qobject_cast<MaskEdit *>(controle(QStringLiteral("txtCodigo")));
+    if (mskCodigo_->mascara().isEmpty()) {
+        // A code without a mask takes digits only, up to the field's length.
         mskCodigo_->setValidator(new QRegularExpressionValidator(
-            QRegularExpression(QStringLiteral("[0-9]{0,%1}").arg(digitos)), mskCodigo_));
-        mskCodigo_->setFixedWidth(mskCodigo_->fontMetrics().horizontalAdvance(QString(digitos + 2, u'0')) + 14);
-    } else {
-        mskCodigo_->setObjectName(QStringLiteral("mskCodigo"));
-        mskCodigo_->setMascara(mascara);
-        mskCodigo_->setFixedWidth(mskCodigo_->fontMetrics().horizontalAdvance(QString(mascara.size() + 2, u'0')) + 14);
+            QRegularExpression(QStringLiteral("[0-9]{0,%1}").arg(mskCodigo_->maxLength())), mskCodigo_));
     }
+    fraDados_ = qobject_cast<QFrame *>(controle(QStringLiteral("fraDados")));
+    tdbGrade_ = qobject_cast<Grade *>(controle(QStringLiteral("tdbGrade")));
+    cmdGravar_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdGravar")));
+    cmdApagar_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdApagar")));
+    cmdCancelar_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdCancelar")));
+    cmdImprimir_ = findChild<QPushButton *>(QStringLiteral("cmdImprimir"));  // not on a register without a report
+    cmdSair_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdSair")));
+    cmdPesquisar_ = findChild<QPushButton *>(QStringLiteral("cmdPesquisar"));
+    for (const Campo &c : registro_.campos) {
+        if (c.tipo == Tipo::Opcao)
+            for (const auto &[botao, valor] : c.opcoes)
+                controle(botao);
+        else
+            controle(c.controle);
+    }
+
+    connect(cmdGravar_, &QPushButton::clicked, this, &RecordForm::cmdGravar_Click);
+    connect(cmdApagar_, &QPushButton::clicked, this, &RecordForm::cmdApagar_Click);
+    connect(cmdCancelar_, &QPushButton::clicked, this, &RecordForm::cmdCancelar_Click);
+    if (cmdImprimir_)
+        connect(cmdImprimir_, &QPushButton::clicked, this, &RecordForm::cmdImprimir_Click);
+    connect(cmdSair_, &QPushButton::clicked, this, &RecordForm::cmdSair_Click);
+    if (cmdPesquisar_)
+        connect(cmdPesquisar_, &QPushButton::clicked, this, &RecordForm::cmdPesquisar_Click);
+    for (QPushButton *b : findChildren<QPushButton *>())
+        b->setAutoDefault(false);
     aoPerderFoco(mskCodigo_, [this] {
         if (!carregando_ && mskCodigo_->isEnabled() && QApplication::focusWidget() != cmdSair_)
             mskCodigo_LostFocus();
     });
-    fraDados_ = new QFrame(this);
-    fraDados_->setObjectName(QStringLiteral("fraDados"));
-    fraDados_->setFrameShape(QFrame::StyledPanel);
-
-    auto botao = [this](const char *name, const QString &caption) {
-        auto *b = new QPushButton(caption, this);
-        b->setObjectName(QString::fromLatin1(name));
-        b->setAutoDefault(false);
-        b->setMinimumWidth(88);
-        return b;
-    };
-    cmdGravar_ = botao("cmdGravar", QStringLiteral("&Gravar"));
-    cmdApagar_ = botao("cmdApagar", QStringLiteral("&Apagar"));
-    cmdCancelar_ = botao("cmdCancelar", QStringLiteral("&Cancelar"));
-    cmdImprimir_ = botao("cmdImprimir", QStringLiteral("&Imprimir"));
-    cmdSair_ = botao("cmdSair", QStringLiteral("&Sair"));
-    connect(cmdGravar_, &QPushButton::clicked, this, &RecordForm::cmdGravar_Click);
-    connect(cmdApagar_, &QPushButton::clicked, this, &RecordForm::cmdApagar_Click);
-    connect(cmdCancelar_, &QPushButton::clicked, this, &RecordForm::cmdCancelar_Click);
-    connect(cmdImprimir_, &QPushButton::clicked, this, &RecordForm::cmdImprimir_Click);
-    connect(cmdSair_, &QPushButton::clicked, this, &RecordForm::cmdSair_Click);
-    if (!pesquisa().dialogo.isEmpty()) {
-        cmdPesquisar_ = botao("cmdPesquisar", QStringLiteral("&Pesquisar"));
-        connect(cmdPesquisar_, &QPushButton::clicked, this, &RecordForm::cmdPesquisar_Click);
-    }
-
-    tdbGrade_ = new Grade(this);
-    tdbGrade_->setObjectName(QStringLiteral("tdbGrade"));
-    tdbGrade_->modelo()->setTitulos(titulosGrade());
-    tdbGrade_->modelo()->setColunaNumerica(0, codigoNumerico());
-    tdbGrade_->setMinimumHeight(150);
+    tdbGrade_->modelo()->setTitulos(registro_.titulosGrade);
+    tdbGrade_->modelo()->setColunaNumerica(0, registro_.chave == Chave::Numero);
     connect(tdbGrade_, &Grade::linhaMudou, this, &RecordForm::tdbGrade_RowChange);
 
-    auto *rotulo = new QLabel(rotuloCodigo, this);
-    rotulo->setBuddy(mskCodigo_);
-    auto *topo = new QHBoxLayout;
-    topo->addWidget(rotulo);
-    topo->addWidget(mskCodigo_);
-    topo->addStretch();
-    auto *botoes = new QHBoxLayout;
-    botoes->addStretch();
-    QList<QPushButton *> lista{cmdGravar_, cmdApagar_, cmdCancelar_, cmdImprimir_};
-    if (cmdPesquisar_)
-        lista << cmdPesquisar_;
-    lista << cmdSair_;
-    for (QPushButton *b : lista)
-        botoes->addWidget(b);
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(topo);
-    layout->addWidget(fraDados_);
-    layout->addLayout(botoes);
-    layout->addWidget(tdbGrade_, 1);
-}
-
-void RecordForm::carrega(const QString &connectionString)
-{
     cn_.ConnectionTimeout = 100;
-    cn_.Open(connectionString);
+    cn_.Open(registro_.conexao == Conexao::Sistema ? session.conSistema : session.conAtiva);
     TrocaModo(1);
     session.valorPesq.clear();
     preencheGrade();
     aplicaTeclado(*this);
-    // Position and size are fixed.
-    setFixedSize(sizeHint().expandedTo(QSize(520, 440)));
 }
 
+QString RecordForm::normalizaCodigo(const QString &masked) const { return normalizaChave(registro_, masked); }
+
 QString RecordForm::codigoAtual() const { return normalizaCodigo(mskCodigo_->textoMascarado()); }
+
+QString RecordForm::valorDe(const Campo &c) const
+{
+    QWidget *w = c.tipo == Tipo::Opcao ? nullptr : controle(c.controle);
+    switch (c.tipo) {
+    case Tipo::Texto:
+        if (auto *t = qobject_cast<QPlainTextEdit *>(w))
+            return t->toPlainText();
+        if (auto *l = qobject_cast<QLabel *>(w))
+            return l->text();
+        return qobject_cast<QLineEdit *>(w)->text();
+    case Tipo::Mascara:
+        return qobject_cast<MaskEdit *>(w)->textoMascarado();
+    case Tipo::Numero:
+        return qobject_cast<NumberField *>(w)->valorSql();
+    case Tipo::Data: {
+        const QString d = qobject_cast<DateField *>(w)->dataSql();
+        return d == QLatin1String("Null") ? c.nulo : d;
+    }
+    case Tipo::Booleano:
+        return qobject_cast<QCheckBox *>(w)->isChecked() ? QStringLiteral("True") : QStringLiteral("False");
+    case Tipo::Opcao:
+        for (const auto &[botao, valor] : c.opcoes)
+            if (qobject_cast<QRadioButton *>(controle(botao))->isChecked())
+                return valor;
+        return c.opcoes.isEmpty() ? QString() : c.opcoes.last().second;
+    case Tipo::Combo:
+        return qobject_cast<QComboBox *>(w)->currentText();
+    }
+    return QString();
+}
+
+void RecordForm::carregaCampo(const Campo &c, const Recordset &rs)
+{
+    if (c.coluna.isEmpty())
+        return;
+    const Field &f = rs[c.coluna];
+    QWidget *w = c.tipo == Tipo::Opcao ? nullptr : controle(c.controle);
+    switch (c.tipo) {
+    case Tipo::Texto:
+        if (auto *t = qobject_cast<QPlainTextEdit *>(w))
+            t->setPlainText(f.text());
+        else if (auto *l = qobject_cast<QLabel *>(w))
+            l->setText(f.text());
+        else
+            qobject_cast<QLineEdit *>(w)->setText(f.text());
+        break;
+    case Tipo::Mascara:
+        qobject_cast<MaskEdit *>(w)->setText(f.text());
+        break;
+    case Tipo::Numero:
+        qobject_cast<NumberField *>(w)->setValor(f.toDouble());
+        break;
+    case Tipo::Data:
+        qobject_cast<DateField *>(w)->setData(f.toDate());
+        break;
+    case Tipo::Booleano:
+        qobject_cast<QCheckBox *>(w)->setChecked(f.toBool());
+        break;
+    case Tipo::Opcao:
+        for (const auto &[botao, valor] : c.opcoes)
+            if (valor == f.text().trimmed())
+                qobject_cast<QRadioButton *>(controle(botao))->setChecked(true);
+        break;
+    case Tipo::Combo: {
+        auto *combo = qobject_cast<QComboBox *>(w);
+        combo->setCurrentIndex(combo->findText(f.text()));
+        break;
+    }
+    }
+}
+
+QHash<QString, QString> RecordForm::valores(const QString &codigo) const
+{
+    QHash<QString, QString> v;
+    v.insert(QStringLiteral("codigo"), codigo);
+    for (const Campo &c : registro_.campos)
+        v.insert(c.controle, valorDe(c));
+    valoresExtras(v);
+    return v;
+}
+
+QString RecordForm::sql(const QString &modelo, const QString &codigo) const
+{
+    if (nomesDoModelo(modelo).size() <= 1)  // the code alone: no need to read the fields
+        return montaSql(modelo, {{QStringLiteral("codigo"), codigo}});
+    return montaSql(modelo, valores(codigo));
+}
 
 void RecordForm::TrocaModo(int modo)
 {
@@ -139,10 +212,15 @@ void RecordForm::TrocaModo(int modo)
 
 void RecordForm::focaCodigo()
 {
-    // Called from a focus change: the focus is given back once it has settled.
-    QTimer::singleShot(0, mskCodigo_, [this] { mskCodigo_->setFocus(); });
+    // Called from a focus change: the focus is given back once it has
+    // settled, and only while the user is still in this form; a check must
+    // never pull the focus back from another window.
+    QTimer::singleShot(0, mskCodigo_, [this] {
+        QWidget *foco = QApplication::focusWidget();
+        if (foco && isAncestorOf(foco) && !fechando(*this))
+            mskCodigo_->setFocus();
+    });
 }
-
 
 void RecordForm::mskCodigo_LostFocus()
 {
@@ -153,7 +231,7 @@ void RecordForm::mskCodigo_LostFocus()
         return;
     }
     poeCodigo(codigo);
-    Recordset rs = cn_.Execute(sqlBusca(codigo));
+    Recordset rs = cn_.Execute(sql(registro_.busca, codigo));
     achou_ = !rs.eof();
     if (codigoRecusado(achou_)) {
         focaCodigo();
@@ -166,7 +244,9 @@ void RecordForm::mskCodigo_LostFocus()
     if (achou_ && !novo_) {
         LimpaCampos(*fraDados_);
         HabilitaCampos(*fraDados_, true);
-        carregaCampos(rs);
+        for (const Campo &c : registro_.campos)
+            carregaCampo(c, rs);
+        carregaExtras(rs);
         tdbGrade_->posiciona(linhaDoCodigo(codigo));
         TrocaModo(2);
         primeiroCampo()->setFocus();
@@ -186,7 +266,14 @@ void RecordForm::mskCodigo_LostFocus()
     }
 }
 
-QString RecordForm::mensagemCodigoInvalido() const { return QStringLiteral("Todo Registro deve ter um código válido"); }
+void RecordForm::validaCampos()
+{
+    for (const Obrigatorio &o : registro_.obrigatorios) {
+        for (const Campo &c : registro_.campos)
+            if (c.controle == o.controle && valorDe(c).trimmed().isEmpty())
+                AnotaErro(kErroFatal, o.mensagem);
+    }
+}
 
 void RecordForm::cmdGravar_Click()
 {
@@ -195,9 +282,9 @@ void RecordForm::cmdGravar_Click()
     LimpaErros();
     antesDasRegras();
     if (codigo.isEmpty() || val(codigo) == 0)
-        AnotaErro(kErroFatal, mensagemCodigoInvalido());
+        AnotaErro(kErroFatal, registro_.codigoInvalido);
     if (novo_ && !codigo.isEmpty()) {
-        Recordset rs = cn_.Execute(sqlExiste(codigo));
+        Recordset rs = cn_.Execute(sql(registro_.existe, codigo));
         if (!rs.eof())
             AnotaErro(kErroFatal, QStringLiteral("Código Já Cadastrado, Troque o Número !"));
     }
@@ -212,10 +299,10 @@ void RecordForm::cmdGravar_Click()
         }
     }
     const bool eraNovo = novo_;
-    session.sql = novo_ ? sqlInsert(codigo) : sqlUpdate(codigo);
+    session.sql = sql(novo_ ? registro_.insere : registro_.altera, codigo);
     cn_.Execute(session.sql);
     aposGravar(codigo, eraNovo);
-    Recordset rs = cn_.Execute(sqlBusca(codigo));
+    Recordset rs = cn_.Execute(sql(registro_.busca, codigo));
     GradeModel *grade = tdbGrade_->modelo();
     if (novo_) {
         novo_ = false;
@@ -243,7 +330,7 @@ void RecordForm::cmdApagar_Click()
     if (MsgBox(perguntaExclusao(codigo), estiloExclusao(), QStringLiteral("Atenção...")) != vbYes)
         return;
     antesDeApagar(codigo);
-    cn_.Execute(sqlDelete(codigo));
+    cn_.Execute(sql(registro_.apaga, codigo));
     tdbGrade_->modelo()->remove(linhaDoCodigo(codigo));
     voltaAoCodigo();
 }
@@ -269,9 +356,20 @@ void RecordForm::cmdImprimir_Click()
     imprime(chave);
 }
 
+void RecordForm::imprime(const QString &chave)
+{
+    const RelatorioRegistro &r = registro_.relatorio;
+    if (r.sql.isEmpty() || (nomesDoModelo(r.sql).contains(QStringLiteral("chave")) && chave.isEmpty()))
+        return;
+    Recordset rs;
+    Ampulheta ampulheta;
+    ImprimeRelatorio(cn_, rs, montaSql(r.sql, {{QStringLiteral("chave"), chave}}), r.colunas, r.modelo, r.titulo, {},
+                     linhaRelatorio());
+}
+
 void RecordForm::cmdPesquisar_Click()
 {
-    const Pesquisa p = pesquisa();
+    const PesquisaRegistro &p = registro_.pesquisa;
     if (!abrePesquisa(this, p.dialogo, p.titulo, p.tabela))
         return;
     // The chosen code is typed into the code field and left with a Tab, as a
@@ -290,21 +388,23 @@ void RecordForm::cmdPesquisar_Click()
 
 void RecordForm::cmdSair_Click() { fechaForm(*this); }
 
-QString RecordForm::mensagemAbandono() const
-{
-    return QStringLiteral("Você não pode abandonar uma operação em andamento, grave ou cancele !");
-}
-
 void RecordForm::closeEvent(QCloseEvent *event)
 {
     if (primeiroCampo()->isEnabled()) {
         event->ignore();
-        MsgBox(mensagemAbandono(), vbCritical, QStringLiteral("Atenção"));
+        MsgBox(registro_.abandono, vbCritical, QStringLiteral("Atenção"));
         return;
     }
+    marcaFechando(*this);
     if (cn_.State() == 1)
         cn_.Close();
     event->accept();
+}
+
+QWidget *RecordForm::primeiroCampo() const
+{
+    const Campo &c = registro_.campos.first();
+    return controle(c.tipo == Tipo::Opcao ? c.opcoes.first().first : c.controle);
 }
 
 void RecordForm::poeCodigo(const QString &codigo) { mskCodigo_->setText(codigo); }
@@ -323,13 +423,21 @@ void RecordForm::tdbGrade_RowChange(int row)
     mskCodigo_LostFocus();  // the {Tab} of the system
 }
 
+QStringList RecordForm::linhaGrade(const Recordset &rs) const
+{
+    QStringList cells;
+    for (const QString &c : registro_.colunasGrade)
+        cells << rs[c].text();
+    return cells;
+}
+
 void RecordForm::preencheGrade()
 {
     GradeModel *grade = tdbGrade_->modelo();
     grade->limpa();
-    Recordset count = cn_.Execute(sqlContagem());
+    Recordset count = cn_.Execute(registro_.contagem);
     Q_UNUSED(count);  // the in-memory table grows as the rows come
-    for (Recordset rs = cn_.Execute(sqlLista()); !rs.eof(); rs.moveNext())
+    for (Recordset rs = cn_.Execute(registro_.lista); !rs.eof(); rs.moveNext())
         grade->adiciona(linhaGrade(rs));
     grade->sort(0, Qt::AscendingOrder);
     tdbGrade_->ajustaColunas();

@@ -1,11 +1,14 @@
 #pragma once
 // The record-form protocol shared by every register: a code field, the
 // record's fields in fraDados, the command buttons and a grid of all rows.
-// A register says only what differs: its table, statements, fields and rules.
+// A register is its description (registers/registro.h) and its layout
+// (frmX.ui, with the control names the description binds); it writes code
+// only for the rules that go beyond the pattern, through the hooks below.
 //
 // Modes: 1 idle (only the code field), 2 a record shown, 3 a new record.
 #include "core/datastore.h"
-#include "core/widgets/campos.h"
+#include "registers/registro.h"
+#include "reporting/imprime.h"
 
 #include <QWidget>
 
@@ -18,9 +21,10 @@ class QPushButton;
 class RecordForm : public QWidget {
     Q_OBJECT
 public:
-    explicit RecordForm(QWidget *parent = nullptr);
+    RecordForm(const Registro &registro, QWidget *parent = nullptr);
     ~RecordForm() override;
 
+    const Registro &registro() const { return registro_; }
     int modo() const { return modo_; }
     bool novo() const { return novo_; }
 
@@ -35,7 +39,23 @@ public:
     // A move to a row of the grid: the row's code goes to the code field and is loaded.
     void tdbGrade_RowChange(int row);
 
+    // The values the statements of the description take, by name: the code
+    // and every bound control's value as its kind writes it, and what
+    // valoresExtras adds.
+    QHash<QString, QString> valores(const QString &codigo) const;
+
 protected:
+    // ---- For the register's constructor, after setupUi ----
+    // Finds the controls by name, opens cn on the description's connection,
+    // fills the grid and goes to mode 1.
+    void carrega();
+    QString codigoAtual() const;
+    // The focus back to the code field once the current focus change has
+    // settled, unless the user has gone to another window meanwhile.
+    void focaCodigo();
+    // The control of that name; a name the layout lacks is a fault of the form.
+    QWidget *controle(const QString &nome) const;
+
     // ---- Lost-focus checks shared by the registers with an address ----
     // A state code that Estados does not know: the message, and the field emptied.
     static void confereUF(QLineEdit *campo);
@@ -43,35 +63,26 @@ protected:
     static void confereCPF(const MaskEdit *campo);
     static void confereCGC(const MaskEdit *campo);
 
-    // ---- What a register gives ----
-    // The code as the register keeps it, from the masked text; empty when no code was typed.
-    virtual QString normalizaCodigo(const QString &masked) const = 0;
-    virtual QString sqlBusca(const QString &codigo) const = 0;    // the row of a code
-    virtual QString sqlExiste(const QString &codigo) const = 0;   // the save's duplicate test
-    virtual QString sqlContagem() const = 0;                      // "... Count(x) As I ..."
-    virtual QString sqlLista() const = 0;                         // the grid, in key order
-    virtual QString sqlInsert(const QString &codigo) const = 0;
-    virtual QString sqlUpdate(const QString &codigo) const = 0;
-    virtual QString sqlDelete(const QString &codigo) const = 0;
-    virtual void carregaCampos(const Recordset &rs) = 0;
-    // The register's own rules, after the common ones (AnotaErro).
-    virtual void validaCampos() {}
-    // The grid's cells of a row of sqlLista(); the first is the code.
-    virtual QStringList linhaGrade(const Recordset &rs) const = 0;
-    virtual QStringList titulosGrade() const = 0;
-    // True when the code is a number (sorted and searched as one in the grid).
-    virtual bool codigoNumerico() const { return false; }
-    // The print of the record or list; `chave` is what chaveImpressao() gave
-    // before the save that printing runs first.
-    virtual void imprime(const QString &chave) { Q_UNUSED(chave); }
+    // ---- What a register may add to its description ----
+    // The code as the register keeps it (the description's rule by default).
+    virtual QString normalizaCodigo(const QString &masked) const;
+    // Values the statements name beyond the bound controls.
+    virtual void valoresExtras(QHash<QString, QString> &valores) const { Q_UNUSED(valores); }
+    // After the bound controls were loaded from the row.
+    virtual void carregaExtras(const Recordset &rs) { Q_UNUSED(rs); }
+    // The save's rules after the code's: the required fields by default.
+    virtual void validaCampos();
+    // The grid's cells of a row of the list; the first is the code.
+    virtual QStringList linhaGrade(const Recordset &rs) const;
+    // The print; `chave` is what chaveImpressao() gave before the save that
+    // printing runs first. By default the description's report, when it has one.
+    virtual void imprime(const QString &chave);
     virtual QString chaveImpressao() const { return codigoAtual(); }
+    // One row of the report from the record (each column by name by default).
+    virtual RowFiller linhaRelatorio() const { return {}; }
     // The first data field: the focus goes there, and its enabled state means
-    // "a record in hand".
-    virtual QWidget *primeiroCampo() const = 0;
-    // The message that refuses closing with a record in hand.
-    virtual QString mensagemAbandono() const;
-    // The common rule on the code's value.
-    virtual QString mensagemCodigoInvalido() const;
+    // "a record in hand". The first bound control by default.
+    virtual QWidget *primeiroCampo() const;
     // Puts a code back into the code field (a grid click, a search).
     virtual void poeCodigo(const QString &codigo);
     // Values the fields take in mode 1 after they are cleared.
@@ -92,25 +103,6 @@ protected:
     virtual int estiloExclusao() const;
     virtual void antesDeApagar(const QString &codigo) { Q_UNUSED(codigo); }
 
-    // The search of cmdPesquisar: the dialog's name, its title and table.
-    // A register without a search leaves the dialog empty.
-    struct Pesquisa {
-        QString dialogo, titulo, tabela;
-        int largura = 0;  // the code's width for ZeroEsq (0: as it comes)
-    };
-    virtual Pesquisa pesquisa() const { return {}; }
-
-    // ---- For the register's constructor ----
-    // Builds the frame: code label and field, data frame, buttons, grid.
-    // With a mask ("###") the code field is the masked mskCodigo; without,
-    // a text field txtCodigo that takes up to `digitos` digits.
-    void montaTela(const QString &rotuloCodigo, const QString &mascara, int digitos = 0);
-    // Opens cn on the connection string, fills the grid, mode 1.
-    void carrega(const QString &connectionString);
-    QString codigoAtual() const;
-    // The focus back to the code field once the current focus change has settled.
-    void focaCodigo();
-
     void closeEvent(QCloseEvent *event) override;
 
     Connection cn_;
@@ -121,12 +113,19 @@ protected:
     QPushButton *cmdImprimir_ = nullptr, *cmdPesquisar_ = nullptr, *cmdSair_ = nullptr;
 
 private:
+    QString valorDe(const Campo &campo) const;
+    void carregaCampo(const Campo &campo, const Recordset &rs);
+    QString sql(const QString &modelo, const QString &codigo) const;
     void preencheGrade();
     int linhaDoCodigo(const QString &codigo) const;
     void voltaAoCodigo();
 
+    const Registro &registro_;
     int modo_ = 1;
     bool novo_ = false;
     bool achou_ = false;
     bool carregando_ = false;
 };
+
+// Every register of the system, for the checks that read all their descriptions.
+QList<const Registro *> todosRegistros();

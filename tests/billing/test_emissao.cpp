@@ -234,6 +234,17 @@ TEST(EmissaoAutomatica, MissingApartmentStopsTheRest)
     EXPECT_EQ(c.valor(QStringLiteral("SELECT fnreci FROM Parametros Where codigo = 1"), "fnreci"), QStringLiteral("000102"));
 }
 
+TEST(EmissaoAutomatica, AReceiptThatFailsTakesItsStampBackAndTheErrorGoesUp)
+{
+    Condominio c;
+    c.apto(1, QStringLiteral("Apto 1"), 200);
+    const ParametrosEmissao p = c.mes(true, QStringLiteral("000100"));
+    ASSERT_TRUE(gravaParametros(c.con, p).empty());
+    PrompterComAcao prompt([&] { c.con.Execute(QStringLiteral("DROP TABLE Recibos")); });
+    EXPECT_THROW(emissaoAutomatica(c.con, p), DatabaseError);
+    EXPECT_EQ(c.valor(QStringLiteral("SELECT nrecibo FROM Aptos WHERE codigo = '000001'"), "nrecibo"), QStringLiteral("000000"));
+}
+
 TEST(EmissaoAutomatica, NoAnswerOrNoMonthChangesNothing)
 {
     Condominio c;

@@ -38,6 +38,21 @@ TEST(HabtoolBilling, EmiteBaixaDesfazRecalcEventtotAjusta)
     // Already issued in this emission.
     s = habtool({QStringLiteral("emite"), arquivo, QStringLiteral("--sim")});
     EXPECT_EQ(s.out, QStringLiteral("emitidos 0\nfnreci 000012\n"));
+    // A run cut short leaves Fnreci behind the receipts: the next one is refused
+    // with the save's own check, until the number is saved again.
+    auto fnreci = [&](const char *numero) {
+        c.con.Open(session.conAtiva);
+        c.con.Execute(QStringLiteral("UPDATE Parametros Set fnreci = '%1' Where codigo = 1").arg(QLatin1String(numero)));
+        c.con.Close();
+    };
+    fnreci("000011");
+    s = habtool({QStringLiteral("emite"), arquivo, QStringLiteral("--sim")});
+    EXPECT_EQ(s.status, 1);
+    EXPECT_EQ(s.out, QString());
+    EXPECT_TRUE(s.err.contains(QStringLiteral(
+        "O número do maior recibo cadastrado é 000012 e você informou como recibo anterior o nr. 000011")));
+    fnreci("000012");
+    EXPECT_EQ(habtool({QStringLiteral("emite"), arquivo, QStringLiteral("--sim")}).status, 0);
 
     s = habtool({QStringLiteral("baixa"), arquivo, QStringLiteral("11"), QStringLiteral("15/03/2003"), QStringLiteral("Caixa")});
     EXPECT_EQ(s.status, 0) << s.err.toStdString();

@@ -3,6 +3,7 @@
 #include "core/datastore.h"
 #include "core/schemacatalog.h"
 #include "core/session.h"
+#include "core/transaction.h"
 #include "support/fixtures.h"
 
 #include <QDir>
@@ -129,6 +130,56 @@ TEST(DataStore, FailingStatementsCarryTheEngineMessageAndTheText)
     EXPECT_THROW(con.Execute("UPDATE Aptos SET nome = 'sem fim"), DatabaseError);
     // The connection goes on working after a failure.
     EXPECT_EQ(con.Execute("SELECT Count(codigo) As I FROM Plano")["I"].toInt(), 35);
+}
+
+TEST(DataStore, ATransactionKeepsAStepWholeOrNotAtAllAndSendsNoText)
+{
+    TempProgramDir dir;
+    const QString file = dir.makeCondominium(1);
+    Connection con;
+    con.Open(file);
+    auto codigos = [&] {
+        QStringList c;
+        for (Recordset rs = con.Execute("SELECT codigo FROM Aptos ORDER BY codigo"); !rs.eof(); rs.moveNext())
+            c << rs["codigo"].text();
+        return c.join(u',');
+    };
+    QStringList heard;
+    const StatementListener before = setStatementListener([&](const QString &sql) { heard << sql; });
+    {
+        Transaction step(con);
+        con.Execute("INSERT INTO Aptos (codigo,nome) VALUES ('000101',\"Ana 😀 Ávila\")");
+        step.commit();
+    }
+    // A failing statement rolls back what its step had written; the error goes on up.
+    auto failingPair = [&] {
+        Transaction pair(con);
+        con.Execute("INSERT INTO Aptos (codigo) VALUES ('000102')");
+        con.Execute("INSERT INTO Aptos (codigo,demis) VALUES ('000103','não é data')");
+        pair.commit();
+    };
+    EXPECT_THROW(failingPair(), DatabaseError);
+    setStatementListener(before);
+    EXPECT_EQ(heard.size(), 3);  // the statements only, none of the transaction's
+    EXPECT_EQ(codigos(), "000101");
+    EXPECT_EQ(con.Execute("SELECT nome FROM Aptos WHERE nome LIKE '%Ávila'")["nome"].text(), "Ana 😀 Ávila");
+    // Nested: an inner step rolled back leaves the outer one's work.
+    {
+        Transaction outer(con);
+        con.Execute("INSERT INTO Aptos (codigo) VALUES ('000104')");
+        { Transaction inner(con); con.Execute("INSERT INTO Aptos (codigo) VALUES ('000105')"); }
+        outer.commit();
+    }
+    EXPECT_EQ(codigos(), "000101,000104");
+    // Until the commit the file holds the state before the step.
+    {
+        Transaction cut(con);
+        con.Execute("DELETE FROM Aptos");
+        Connection other;
+        other.Open(file);
+        EXPECT_EQ(other.Execute("SELECT Count(codigo) AS I FROM Aptos")["I"].toInt(), 2);
+    }
+    EXPECT_EQ(codigos(), "000101,000104");
 }
 
 TEST(Templates, HoldEveryTableAndTheirStartingRows)

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QApplication>
 #include <QTest>
 
 StatementLog::StatementLog()
@@ -76,4 +77,15 @@ void mostra(QWidget &form)
     form.show();
     form.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+}
+
+void saiDoCampo(QWidget &form, const char *name)
+{
+    if (!form.isActiveWindow())
+        mostra(form);
+    auto *campo = get<QWidget>(form, name);
+    campo->setFocus();
+    QApplication::processEvents();
+    QTest::keyClick(campo, Qt::Key_Tab);
+    QApplication::processEvents();
 }

@@ -40,3 +40,5 @@ public:
 
 // Shows the form, activates it and waits, so that focus events reach it.
 void mostra(QWidget &form);
+// The user leaves the field with Tab: its lost-focus check runs as for a person.
+void saiDoCampo(QWidget &form, const char *name);

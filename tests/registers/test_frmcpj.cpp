@@ -106,10 +106,10 @@ TEST(PessoaJuridica, FieldRulesAndPrint)
     // The postal code of zeros is reset; a wrong CNPJ is told by its routine.
     auto *cep = get<MaskEdit>(form, "mskCep");
     cep->setText(QStringLiteral("00000-000"));
-    form.mskCep_LostFocus();
+    saiDoCampo(form, "mskCep");
     EXPECT_EQ(cep->textoMascarado(), QStringLiteral("_____-___"));
     get<MaskEdit>(form, "mskCnpj")->setText(QStringLiteral("11222333000182"));
-    form.mskCnpj_LostFocus();
+    saiDoCampo(form, "mskCnpj");
     EXPECT_EQ(p.last().text, QStringLiteral("CGC Inválido !"));
 
     StatementLog log;

@@ -211,3 +211,22 @@ TEST(Usuarios, PasswordChangeAndPrint)
     get<QPushButton>(form, "cmdImprimir")->click();
     EXPECT_EQ(lastReport(), report);
 }
+
+TEST(Usuarios, CancelClearsTheDateTheCondominiumAndThePrinter)
+{
+    Usuarios dir;
+    ScriptedPrompter p;
+    frmUsuarios form;
+    get<MaskEdit>(form, "mskCodigo")->setText(QStringLiteral("1"));
+    form.mskCodigo_LostFocus();
+    ASSERT_EQ(form.modo(), 2);
+    EXPECT_EQ(get<QLabel>(form, "lblDsenha")->text(), QStringLiteral("02/01/2008"));
+    EXPECT_FALSE(get<QLabel>(form, "lblNome")->text().isEmpty());
+    EXPECT_TRUE(get<QRadioButton>(form, "optIl")->isChecked());
+    get<QPushButton>(form, "cmdCancelar")->click();
+    EXPECT_TRUE(get<QLabel>(form, "lblDsenha")->text().isEmpty());
+    EXPECT_TRUE(get<QLabel>(form, "lblNome")->text().isEmpty());
+    EXPECT_EQ(get<MaskEdit>(form, "mskCodcli")->textoPuro(), QString());
+    for (const char *o : {"optIm", "OptIj", "optIl", "optIn"})
+        EXPECT_FALSE(get<QRadioButton>(form, o)->isChecked()) << o;
+}

@@ -107,7 +107,7 @@ TEST(Condominios, NoFileWhenRefusedAndTheUpdate)
     codigo->setText(QStringLiteral("1"));
     form.mskCodigo_LostFocus();
     get<QLineEdit>(form, "txtUf")->setText(QStringLiteral("XX"));
-    form.txtUf_LostFocus();
+    saiDoCampo(form, "txtUf");
     EXPECT_EQ(p.last().text, QStringLiteral("Sigla do estado inválida, digite corretamente ou deixe o campo vazio"));
     EXPECT_TRUE(get<QLineEdit>(form, "txtUf")->text().isEmpty());
     EXPECT_FALSE(form.close());

@@ -11,6 +11,13 @@ static int cmdEmite(const QStringList &argumentos)
         return 2;
     ArquivoCondominio arq(args[0], sim);
     const ParametrosEmissao p = leParametros(arq.con);
+    // The check that saving the parameters makes: after an interrupted run
+    // the stored last number is behind the receipts, and numbering on from
+    // it would repeat numbers.
+    if (const auto erro = confereUltimoRecibo(arq.con, p.fnreci)) {
+        err(erro->tipo + QStringLiteral(": ") + erro->mensagem);
+        return 1;
+    }
     const ResultadoEmissao r = emissaoAutomatica(arq.con, p);
     out(QStringLiteral("emitidos %1").arg(r.emitidos));
     out(QStringLiteral("fnreci %1").arg(r.fnreci.isEmpty() ? p.fnreci : r.fnreci));

@@ -1,0 +1,13 @@
+// Every register of the system, for the checks that read all their
+// descriptions. A new register adds its line here.
+#include "registers/forms/frmBlocos.h"
+#include "registers/forms/frmCpj.h"
+#include "registers/forms/frmTTipAp.h"
+#include "registers/forms/frmUsuarios.h"
+#include "registers/forms/frmUsucli.h"
+
+QList<const Registro *> todosRegistros()
+{
+    return {&frmBlocos::descricao(), &frmTTipAp::descricao(), &frmCpj::descricao(), &frmUsucli::descricao(),
+            &frmUsuarios::descricao()};
+}
