@@ -18,6 +18,20 @@ int defaultAnswer(int style)
     return answers[buttons <= 5 ? buttons : 0][which];
 }
 
+QList<PromptButton> promptButtons(int style)
+{
+    const PromptButton ok{vbOK, QStringLiteral("OK")}, cancelar{vbCancel, QStringLiteral("Cancelar")},
+        sim{vbYes, QStringLiteral("Sim")}, nao{vbNo, QStringLiteral("Não")}, repetir{vbRetry, QStringLiteral("Repetir")};
+    switch (style & 7) {
+    case vbOKCancel: return {ok, cancelar};
+    case vbAbortRetryIgnore: return {{vbAbort, QStringLiteral("Anular")}, repetir, {vbIgnore, QStringLiteral("Ignorar")}};
+    case vbYesNoCancel: return {sim, nao, cancelar};
+    case vbYesNo: return {sim, nao};
+    case vbRetryCancel: return {repetir, cancelar};
+    default: return {ok};
+    }
+}
+
 Prompter *setPrompter(Prompter *p)
 {
     Prompter *old = current;

@@ -3,6 +3,7 @@
 // with the original styles and answers. The application installs one over
 // QMessageBox; tests install a scripted one; habtool one that answers each
 // question with its default button and prints the text on standard error.
+#include <QList>
 #include <QString>
 #include <exception>
 
@@ -26,6 +27,14 @@ public:
 // The button a box of this style answers with when nobody chooses: the
 // default button of the style (vbDefaultButton2 picks the second one).
 int defaultAnswer(int style);
+
+// The buttons of a box of this style, in order, with their captions: "OK",
+// "Cancelar", "Anular", "Repetir", "Ignorar", "Sim", "Não".
+struct PromptButton {
+    int answer;
+    QString caption;
+};
+QList<PromptButton> promptButtons(int style);
 
 // Installs p (not owned) and returns the one it replaces. nullptr restores the
 // headless prompter.

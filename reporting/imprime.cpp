@@ -3,6 +3,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QPrinter>
+#include <utility>
 
 namespace {
 
@@ -10,6 +11,12 @@ ReportViewer &viewer()
 {
     static ReportViewer v;
     return v;
+}
+
+ReportPrinter &directPrinter()
+{
+    static ReportPrinter p;
+    return p;
 }
 
 std::shared_ptr<const ReportDocument> &last()
@@ -36,6 +43,8 @@ ReportViewer setReportViewer(ReportViewer v)
     return old;
 }
 
+ReportPrinter setReportPrinter(ReportPrinter p) { return std::exchange(directPrinter(), std::move(p)); }
+
 std::shared_ptr<const ReportDocument> lastReport()
 {
     return last();
@@ -60,7 +69,8 @@ std::shared_ptr<const ReportDocument> MontaRelatorio(const QString &templateName
 {
     formulasComuns(data);
     const ReportTemplate tpl = loadTemplate(session.sysPath + templateName);
-    auto doc = std::make_shared<const ReportDocument>(renderReport(tpl, data));
+    auto doc = std::make_shared<ReportDocument>(renderReport(tpl, data));
+    doc->templateName = templateName;
     last() = doc;
     return doc;
 }
@@ -75,6 +85,8 @@ void MostraRelatorio(const QString &templateName, ReportData data)
 bool ImprimeDireto(const QString &templateName, ReportData data)
 {
     auto doc = MontaRelatorio(templateName, std::move(data));
+    if (directPrinter())
+        return directPrinter()(doc);
     QPrinter printer(QPrinter::HighResolution);
     if (!printer.isValid())
         return false;

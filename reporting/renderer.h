@@ -48,6 +48,7 @@ struct ReportPage {
 
 struct ReportDocument {
     QString title;
+    QString templateName;  // the template it was laid out from ("RAptos.rpt")
     QPageSize pageSize{QPageSize::A4};
     bool landscape = false;
     std::vector<FontSpec> fonts;

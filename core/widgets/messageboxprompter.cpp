@@ -7,31 +7,14 @@
 #include <vector>
 
 namespace {
-struct Button {
-    const char *caption;
-    int answer;
-    QMessageBox::ButtonRole role;
-};
-
-std::vector<Button> buttonsOf(int style)
+QMessageBox::ButtonRole roleOf(int answer)
 {
-    switch (style & 7) {
-    case vbOKCancel:
-        return {{"OK", vbOK, QMessageBox::AcceptRole}, {"Cancelar", vbCancel, QMessageBox::RejectRole}};
-    case vbAbortRetryIgnore:
-        return {{"Anular", vbAbort, QMessageBox::RejectRole},
-                {"Repetir", vbRetry, QMessageBox::AcceptRole},
-                {"Ignorar", vbIgnore, QMessageBox::DestructiveRole}};
-    case vbYesNoCancel:
-        return {{"Sim", vbYes, QMessageBox::YesRole},
-                {"Não", vbNo, QMessageBox::NoRole},
-                {"Cancelar", vbCancel, QMessageBox::RejectRole}};
-    case vbYesNo:
-        return {{"Sim", vbYes, QMessageBox::YesRole}, {"Não", vbNo, QMessageBox::NoRole}};
-    case vbRetryCancel:
-        return {{"Repetir", vbRetry, QMessageBox::AcceptRole}, {"Cancelar", vbCancel, QMessageBox::RejectRole}};
-    default:
-        return {{"OK", vbOK, QMessageBox::AcceptRole}};
+    switch (answer) {
+    case vbOK: case vbRetry: return QMessageBox::AcceptRole;
+    case vbYes: return QMessageBox::YesRole;
+    case vbNo: return QMessageBox::NoRole;
+    case vbIgnore: return QMessageBox::DestructiveRole;
+    default: return QMessageBox::RejectRole;  // Cancelar, Anular
     }
 }
 
@@ -57,12 +40,12 @@ int MessageBoxPrompter::msgBox(const QString &text, int style, const QString &ti
     }
     QMessageBox box(iconOf(style), title.isEmpty() ? QStringLiteral("Habitarium") : title, text, QMessageBox::NoButton,
                     QApplication::activeWindow());
-    const std::vector<Button> buttons = buttonsOf(style);
+    const QList<PromptButton> buttons = promptButtons(style);
     std::vector<QPushButton *> pushes;
-    for (const Button &b : buttons)
-        pushes.push_back(box.addButton(QString::fromUtf8(b.caption), b.role));
+    for (const PromptButton &b : buttons)
+        pushes.push_back(box.addButton(b.caption, roleOf(b.answer)));
     const int defaultAnswerOfStyle = defaultAnswer(style);
-    for (size_t n = 0; n < buttons.size(); ++n) {
+    for (qsizetype n = 0; n < buttons.size(); ++n) {
         if (buttons[n].answer == defaultAnswerOfStyle)
             box.setDefaultButton(pushes[n]);
         if (buttons[n].answer == vbCancel || (buttons.size() == 1))
@@ -70,7 +53,7 @@ int MessageBoxPrompter::msgBox(const QString &text, int style, const QString &ti
     }
     box.exec();
     int answer = defaultAnswerOfStyle;
-    for (size_t n = 0; n < buttons.size(); ++n)
+    for (qsizetype n = 0; n < buttons.size(); ++n)
         if (box.clickedButton() == pushes[n])
             answer = buttons[n].answer;
     return answer;

@@ -1,9 +1,10 @@
 #include "reporting/forms/frmRelatorio.h"
 
 #include "core/prompter.h"
+#include "core/widgets/escolhaarquivo.h"
+#include "core/widgets/modal.h"
 #include "reporting/imprime.h"
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
@@ -164,7 +165,7 @@ void frmRelatorio::imprimir()
     QPrintDialog dialog(&printer, this);
     dialog.setWindowTitle(QStringLiteral("Imprimir"));
     dialog.setMinMax(1, doc_->pageCount());
-    if (dialog.exec() != QDialog::Accepted)
+    if (showModal(dialog) != QDialog::Accepted)
         return;
     if (!printReport(*doc_, printer))
         MsgBox(QStringLiteral("Não foi possível imprimir o relatório."), vbOKOnly + vbExclamation, QStringLiteral("Atenção..."));
@@ -188,8 +189,8 @@ void frmRelatorio::salvarPdf()
         return;
     QString name = doc_->title.isEmpty() ? QStringLiteral("Relatorio") : doc_->title;
     name.replace(QLatin1Char('/'), QLatin1Char('-'));
-    const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Salvar PDF"), name + QStringLiteral(".pdf"),
-                                                      QStringLiteral("Documentos PDF (*.pdf)"));
+    const QString path = escolheArquivo(this, EscolhaArquivo::Salvar, QStringLiteral("Salvar PDF"),
+                                        name + QStringLiteral(".pdf"), QStringLiteral("Documentos PDF (*.pdf)"));
     if (!path.isEmpty())
         savePdf(path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) ? path : path + QStringLiteral(".pdf"));
 }

@@ -1,0 +1,88 @@
+# Runs a habdrive script on a fresh demo installation and compares what it
+# prints, and its exit status, with what is expected.
+#   cmake -DHABDRIVE=... -DMKDEMO=... -DSCRIPT=... -DWORK=... -P rundrive.cmake
+# SCRIPT is a .hd file, expected output in the .out file beside it; or a .md
+# file, whose first ```habdrive block is the script and first ```output block
+# what it prints, with exit status 0. A .hd file may hold several runs on the
+# same installation, separated by lines "#---"; after each run's output comes
+# a line "exit N" with its status.
+# A line "# args: ..." in the script gives habdrive's options; @PDF@ stands for
+# a fresh folder for --pdf, and is written in place of that folder's path in
+# the output. Every PDF a REPORT line names must exist and be a PDF, and so
+# must each file a line "# writes: FILE" names (relative to the run's folder).
+cmake_minimum_required(VERSION 3.25)
+
+function(fenced text tag out)
+  string(REGEX MATCH "```${tag}\n(.*)" rest "${text}")
+  string(FIND "${CMAKE_MATCH_1}" "```" end)
+  string(SUBSTRING "${CMAKE_MATCH_1}" 0 ${end} body)
+  set(${out} "${body}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE "${WORK}")
+file(MAKE_DIRECTORY "${WORK}")
+if(SCRIPT MATCHES "\\.md$")
+  file(READ "${SCRIPT}" doc)
+  fenced("${doc}" "habdrive" script_text)
+  fenced("${doc}" "output" expected)
+  string(APPEND expected "exit 0\n")
+else()
+  string(REGEX REPLACE "\\.hd$" ".out" expected_file "${SCRIPT}")
+  file(READ "${expected_file}" expected)
+  file(READ "${SCRIPT}" script_text)
+endif()
+
+execute_process(COMMAND "${MKDEMO}" "${WORK}/demo" RESULT_VARIABLE rc OUTPUT_QUIET ERROR_VARIABLE err)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "mkdemo failed (${rc}): ${err}")
+endif()
+
+set(actual "")
+set(errors "")
+set(rest "${script_text}")
+set(n 0)
+while(NOT rest STREQUAL "")
+  math(EXPR n "${n} + 1")
+  string(FIND "${rest}" "\n#---\n" cut)
+  if(cut EQUAL -1)
+    set(run "${rest}")
+    set(rest "")
+  else()
+    string(SUBSTRING "${rest}" 0 ${cut} run)
+    math(EXPR cut "${cut} + 6")
+    string(SUBSTRING "${rest}" ${cut} -1 rest)
+  endif()
+  set(script_file "${WORK}/run${n}.hd")
+  file(WRITE "${script_file}" "${run}\n")
+  set(args "")
+  if(run MATCHES "(^|\n)# args:([^\n]*)")
+    string(STRIP "${CMAKE_MATCH_2}" arg_text)
+    string(REPLACE "@PDF@" "${WORK}/pdf" arg_text "${arg_text}")
+    separate_arguments(args UNIX_COMMAND "${arg_text}")
+  endif()
+  execute_process(COMMAND "${HABDRIVE}" "${WORK}/demo" "${script_file}" ${args}
+                  WORKING_DIRECTORY "${WORK}" RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  string(APPEND actual "${out}exit ${rc}\n")
+  string(APPEND errors "${err}")
+endwhile()
+string(REPLACE "${WORK}/pdf" "@PDF@" actual "${actual}")
+
+string(REGEX MATCHALL "REPORT [^\n]*\\|@PDF@/[^\n|]*\\.pdf" files "${actual}")
+string(REGEX MATCHALL "(^|\n)# writes: [^\n]*" writes "${script_text}")
+list(APPEND files ${writes})
+foreach(file ${files})
+  string(REGEX REPLACE ".*\\|@PDF@/" "${WORK}/pdf/" pdf "${file}")
+  string(REGEX REPLACE "^\n?# writes: *" "${WORK}/" pdf "${pdf}")
+  if(NOT EXISTS "${pdf}")
+    message(FATAL_ERROR "${pdf} was not written")
+  endif()
+  file(READ "${pdf}" head LIMIT 4)
+  if(NOT head MATCHES "^%PDF")
+    message(FATAL_ERROR "${pdf} is not a PDF")
+  endif()
+endforeach()
+
+if(NOT actual STREQUAL expected)
+  file(WRITE "${WORK}/actual.out" "${actual}")
+  message(FATAL_ERROR "output differs from what is expected.\n--- expected\n${expected}--- printed (${WORK}/actual.out)\n${actual}--- stderr\n${errors}")
+endif()
