@@ -11,12 +11,14 @@
 #include "core/transaction.h"
 #include "core/val.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <utility>
 #include <QHash>
 #include <algorithm>
 #include <cmath>
 #include <sqlite3.h>
+#include <string>
 
 // ---- Errors ------------------------------------------------------------------
 
@@ -36,15 +38,6 @@ bool isIsoDate(QStringView t)
         if (t[i] < u'0' || t[i] > u'9')
             return false;
     return true;
-}
-
-// The file holds UTF-8: read as it is stored, not through SQLite's UTF-16 copy.
-QString columnText(sqlite3_stmt *st, int c)
-{
-    const auto *p = reinterpret_cast<const char *>(sqlite3_column_text(st, c));
-    if (!p)
-        return QString::fromUtf8("", 0);
-    return QString::fromUtf8(p, sqlite3_column_bytes(st, c));
 }
 
 // Writes text as UTF-8 at w, which has room for three bytes a character, and
@@ -80,26 +73,6 @@ char *writeUtf8(char *w, QStringView text)
 }
 
 } // namespace
-
-// A stored date "yyyy-mm-dd" read straight from the column's bytes; invalid
-// for anything else, which the caller then reads as text.
-QDate storedDate(sqlite3_stmt *st, int c)
-{
-    if (sqlite3_column_bytes(st, c) != 10)
-        return {};
-    const auto *p = sqlite3_column_text(st, c);
-    if (!p || p[4] != '-' || p[7] != '-')
-        return {};
-    int v[3] = {0, 0, 0};
-    const int from[3] = {0, 5, 8}, to[3] = {4, 7, 10};
-    for (int k = 0; k < 3; ++k)
-        for (int i = from[k]; i < to[k]; ++i) {
-            if (p[i] < '0' || p[i] > '9')
-                return {};
-            v[k] = v[k] * 10 + (p[i] - '0');
-        }
-    return QDate(v[0], v[1], v[2]);
-}
 
 // ---- Field -------------------------------------------------------------------
 
@@ -215,23 +188,94 @@ std::shared_ptr<const ColumnSet> describe(sqlite3_stmt *st)
     return cols;
 }
 
-Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
+// A value of a row as it left SQLite: what a Field is made of when the form
+// asks for it. A result is kept this way, so that the columns nobody reads
+// (a SELECT * of a wide table) cost a copy of their bytes only.
+struct Cell {
+    enum Form : unsigned char { Null, Int, Real, Bytes } form = Null;
+    qint64 i = 0;
+    double d = 0;
+    size_t at = 0, size = 0;  // Bytes: the UTF-8 in the recordset's store
+};
+
+// Takes what the column's kind needs from the current row: the text of a text
+// or date column whatever SQLite holds, the number of a number column.
+Cell capture(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared, std::string &store)
 {
+    Cell cell;
     const int type = sqlite3_column_type(st, c);
     if (type == SQLITE_NULL)
+        return cell;
+    auto bytes = [&] {
+        const auto *p = reinterpret_cast<const char *>(sqlite3_column_text(st, c));
+        cell.form = Cell::Bytes;
+        cell.at = store.size();
+        cell.size = p ? size_t(sqlite3_column_bytes(st, c)) : 0;
+        store.append(p ? p : "", cell.size);
+        return cell;
+    };
+    auto integer = [&] {
+        cell.form = Cell::Int;
+        cell.i = sqlite3_column_int64(st, c);
+        return cell;
+    };
+    auto real = [&] {
+        cell.form = Cell::Real;
+        cell.d = sqlite3_column_double(st, c);
+        return cell;
+    };
+    if (!declared)
+        return type == SQLITE_INTEGER ? integer() : type == SQLITE_FLOAT ? real() : bytes();
+    switch (*declared) {
+    case ColumnKind::Text:
+    case ColumnKind::Date:
+        return bytes();
+    case ColumnKind::Counter:
+        return integer();
+    case ColumnKind::Boolean:
+    case ColumnKind::Money:
+        return type == SQLITE_TEXT ? bytes() : real();
+    case ColumnKind::Number:
+        return type == SQLITE_INTEGER ? integer() : type == SQLITE_FLOAT ? real() : bytes();
+    }
+    return bytes();
+}
+
+// A stored date "yyyy-mm-dd" read straight from its bytes; invalid for
+// anything else, which the caller then reads as text.
+QDate storedDate(const char *p, size_t size)
+{
+    if (size != 10 || p[4] != '-' || p[7] != '-')
+        return {};
+    int v[3] = {0, 0, 0};
+    const int from[3] = {0, 5, 8}, to[3] = {4, 7, 10};
+    for (int k = 0; k < 3; ++k)
+        for (int i = from[k]; i < to[k]; ++i) {
+            if (p[i] < '0' || p[i] > '9')
+                return {};
+            v[k] = v[k] * 10 + (p[i] - '0');
+        }
+    return QDate(v[0], v[1], v[2]);
+}
+
+Field makeField(const Cell &cell, const std::string &store, std::optional<ColumnKind> declared)
+{
+    if (cell.form == Cell::Null)
         return Field(QVariant(), declared.value_or(ColumnKind::Text));
+    const char *p = store.data() + cell.at;
+    auto text = [&] { return QString::fromUtf8(p, qsizetype(cell.size)); };
     if (!declared) {
         // An expression: its kind follows its value.
-        switch (type) {
-        case SQLITE_INTEGER:
-            return Field(QVariant(qint64(sqlite3_column_int64(st, c))), ColumnKind::Number);
-        case SQLITE_FLOAT:
-            return Field(QVariant(sqlite3_column_double(st, c)), ColumnKind::Number);
+        switch (cell.form) {
+        case Cell::Int:
+            return Field(QVariant(cell.i), ColumnKind::Number);
+        case Cell::Real:
+            return Field(QVariant(cell.d), ColumnKind::Number);
         default: {
-            const QDate d = storedDate(st, c);
+            const QDate d = storedDate(p, cell.size);
             if (d.isValid())
                 return Field(QVariant(d), ColumnKind::Date);
-            const QString t = columnText(st, c);
+            const QString t = text();
             if (isIsoDate(t))
                 return Field(QVariant(QDate::fromString(t, Qt::ISODate)), ColumnKind::Date);
             return Field(QVariant(t), ColumnKind::Text);
@@ -241,27 +285,27 @@ Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
     const ColumnKind kind = *declared;
     switch (kind) {
     case ColumnKind::Text:
-        return Field(QVariant(columnText(st, c)), kind);
+        return Field(QVariant(text()), kind);
     case ColumnKind::Counter:
-        return Field(QVariant(qint64(sqlite3_column_int64(st, c))), kind);
+        return Field(QVariant(cell.i), kind);
     case ColumnKind::Boolean:
-        if (type == SQLITE_TEXT)
+        if (cell.form == Cell::Bytes)
             break;
-        return Field(QVariant(sqlite3_column_double(st, c) != 0), kind);
+        return Field(QVariant(cell.d != 0), kind);
     case ColumnKind::Money:
-        if (type == SQLITE_TEXT)
+        if (cell.form == Cell::Bytes)
             break;
-        return Field(QVariant(Money::fromDouble(sqlite3_column_double(st, c)).toDouble()), kind);
+        return Field(QVariant(Money::fromDouble(cell.d).toDouble()), kind);
     case ColumnKind::Number:
-        if (type == SQLITE_INTEGER)
-            return Field(QVariant(qint64(sqlite3_column_int64(st, c))), kind);
-        if (type == SQLITE_FLOAT)
-            return Field(QVariant(sqlite3_column_double(st, c)), kind);
+        if (cell.form == Cell::Int)
+            return Field(QVariant(cell.i), kind);
+        if (cell.form == Cell::Real)
+            return Field(QVariant(cell.d), kind);
         break;
     case ColumnKind::Date: {
-        if (const QDate stored = storedDate(st, c); stored.isValid())
+        if (const QDate stored = storedDate(p, cell.size); stored.isValid())
             return Field(QVariant(stored), kind);
-        const QString t = columnText(st, c);
+        const QString t = text();
         const QDate d = QDate::fromString(t, Qt::ISODate);
         if (d.isValid())
             return Field(QVariant(d), kind);
@@ -269,7 +313,7 @@ Field readField(sqlite3_stmt *st, int c, std::optional<ColumnKind> declared)
     }
     }
     // A value the column's kind does not hold (text left in a number column).
-    return Field(QVariant(columnText(st, c)), kind);
+    return Field(QVariant(text()), kind);
 }
 
 // ---- SQL functions of the dialect ---------------------------------------------
@@ -439,6 +483,22 @@ int jetNocase(void *, int n1, const void *p1, int n2, const void *p2)
     return sortKey(ta, true).compare(sortKey(tb, true));
 }
 
+// A value written to a money column: rounded to four places as the currency
+// type holds it; beyond its range the statement fails and writes nothing.
+void fnMoney(sqlite3_context *ctx, int, sqlite3_value **argv)
+{
+    const int type = sqlite3_value_type(argv[0]);
+    if (type != SQLITE_INTEGER && type != SQLITE_FLOAT) {
+        sqlite3_result_value(ctx, argv[0]);
+        return;
+    }
+    try {
+        sqlite3_result_double(ctx, Money::fromDouble(sqlite3_value_double(argv[0])).toDouble());
+    } catch (const std::overflow_error &) {
+        sqlite3_result_error(ctx, "Estouro de capacidade", -1);
+    }
+}
+
 void registerFunctions(sqlite3 *db)
 {
     sqlite3_create_collation_v2(db, "NOCASE", SQLITE_UTF8, nullptr, jetNocase, nullptr);
@@ -451,7 +511,8 @@ void registerFunctions(sqlite3 *db)
                              {"jet_round", 1, fnRound}, {"jet_round", 2, fnRound},    {"jet_isnull", 1, fnIsNull},
                              {"mid", 2, fnMid},         {"mid", 3, fnMid},            {"len", 1, fnLen},
                              {"ucase", 1, fnUcase},     {"lcase", 1, fnLcase},        {"year", 1, fnDatePart<0>},
-                             {"month", 1, fnDatePart<1>}, {"day", 1, fnDatePart<2>}, {"int", 1, fnInt}};
+                             {"month", 1, fnDatePart<1>}, {"day", 1, fnDatePart<2>}, {"int", 1, fnInt},
+                             {"jet_money", 1, fnMoney}};
     for (const Fn &f : fns)
         sqlite3_create_function_v2(db, f.name, f.args, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, f.fn, nullptr,
                                    nullptr, nullptr);
@@ -614,13 +675,40 @@ struct Connection::Impl {
 
 struct Recordset::Impl {
     std::shared_ptr<const ColumnSet> columns;
-    std::vector<Field> cells;
+    std::vector<Cell> cells;
+    std::string store;                // the bytes of the text cells
+    mutable std::vector<Field> fields;  // made when first asked for, then kept
+    mutable std::vector<bool> made;
     size_t rows = 0;
     size_t current = 0;
     bool open = false;
     bool keyset = false;
 
     size_t width() const { return size_t(columns ? columns->names.size() : 0); }
+
+    void clear()
+    {
+        cells.clear();
+        store.clear();
+        fields.clear();
+        made.clear();
+        rows = 0;
+        current = 0;
+    }
+
+    const Field &field(size_t column) const
+    {
+        const size_t k = current * width() + column;
+        if (fields.empty()) {
+            fields.resize(cells.size());
+            made.assign(cells.size(), false);
+        }
+        if (!made[k]) {
+            fields[k] = makeField(cells[k], store, columns->kinds[column]);
+            made[k] = true;
+        }
+        return fields[k];
+    }
 };
 
 void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Impl *rs, long *affected)
@@ -629,15 +717,13 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
     const int ncols = sqlite3_column_count(st);
     if (ncols > 0 && rs) {
         rs->columns = p.columns;
-        rs->cells.clear();
-        rs->rows = 0;
-        rs->current = 0;
+        rs->clear();
         const auto &kinds = p.columns->kinds;
         rs->cells.reserve(size_t(ncols));
         int rc;
         while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
             for (int c = 0; c < ncols; ++c)
-                rs->cells.push_back(readField(st, c, kinds[size_t(c)]));
+                rs->cells.push_back(capture(st, c, kinds[size_t(c)], rs->store));
             ++rs->rows;
         }
         if (rc != SQLITE_DONE) {
@@ -809,6 +895,11 @@ void Connection::Open(const QString &connectionString)
     if (path.isEmpty() || !QFileInfo(path).isFile())
         throw DatabaseError(QStringLiteral("Não foi possível encontrar o arquivo '%1'.").arg(path), connectionString);
 
+    // Anything else (an empty file above all) would be taken for an empty
+    // database and changed on the first statement.
+    if (!isSystemFile(path))
+        throw DatabaseError(QStringLiteral("Formato de banco de dados '%1' não reconhecido.").arg(path), connectionString);
+
     sqlite3 *db = nullptr;
     const QByteArray p = path.toUtf8();
     // A connection belongs to one thread: SQLite's own locking of it is not needed.
@@ -856,6 +947,25 @@ Recordset Connection::Execute(const QString &sql, long *recordsAffected)
     Recordset rs;
     impl_->execute(sql, rs.impl_.get(), recordsAffected);
     return rs;
+}
+
+bool Connection::isSystemFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.read(16) != QByteArray("SQLite format 3", 16))
+        return false;
+    file.close();
+    sqlite3 *db = nullptr;
+    bool found = false;
+    if (sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK) {
+        sqlite3_stmt *st = nullptr;
+        if (sqlite3_prepare_v2(db, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'Parametros' COLLATE NOCASE",
+                               -1, &st, nullptr) == SQLITE_OK)
+            found = sqlite3_step(st) == SQLITE_ROW;
+        sqlite3_finalize(st);
+    }
+    sqlite3_close(db);
+    return found;
 }
 
 void Connection::createFile(const QString &path)
@@ -949,9 +1059,7 @@ void Recordset::Close()
 {
     impl_->open = false;
     impl_->keyset = false;
-    impl_->cells.clear();
-    impl_->rows = 0;
-    impl_->current = 0;
+    impl_->clear();
     impl_->columns.reset();
 }
 
@@ -993,7 +1101,7 @@ const Field &Recordset::operator[](const QString &column) const
     const auto remembered = cols.asked.constFind(column.constData());
     if (remembered != cols.asked.constEnd() && *remembered < cols.names.size() &&
         cols.names[*remembered].compare(column, Qt::CaseInsensitive) == 0)
-        return impl_->cells[impl_->current * impl_->width() + size_t(*remembered)];
+        return impl_->field(size_t(*remembered));
     qsizetype index = -1;
     for (qsizetype c = 0; c < cols.names.size() && index < 0; ++c)
         if (cols.names[c].compare(column, Qt::CaseInsensitive) == 0)
@@ -1008,7 +1116,7 @@ const Field &Recordset::operator[](const QString &column) const
             QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), column);
     if (cols.asked.size() < 256)
         cols.asked.insert(column.constData(), index);
-    return impl_->cells[impl_->current * impl_->width() + size_t(index)];
+    return impl_->field(size_t(index));
 }
 
 QStringList Recordset::columnNames() const { return impl_->columns ? impl_->columns->names : QStringList(); }
@@ -1020,5 +1128,5 @@ const Field &Recordset::fieldAt(int index) const
     if (index < 0 || size_t(index) >= impl_->width())
         throw DatabaseError(
             QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), QString());
-    return impl_->cells[impl_->current * impl_->width() + size_t(index)];
+    return impl_->field(size_t(index));
 }

@@ -35,3 +35,5 @@ bool validaModulo11(const QString &text, int length, int maxWeight, const QStrin
 bool ValidaCPF(const QString &text) { return validaModulo11(text, 11, 11, QStringLiteral("CPF Inválido !")); }
 
 bool ValidaCGC(const QString &text) { return validaModulo11(text, 14, 9, QStringLiteral("CGC Inválido !")); }
+
+bool NomeUsuarioValido(const QString &nome) { return !nome.contains(u'\''); }

@@ -6,3 +6,8 @@
 bool ValidaCPF(const QString &text);   // "CPF Inválido !" when the check digits disagree
 bool ValidaCGC(const QString &text);   // "CGC Inválido !"
 bool ValidaUF(const QString &uf);      // reads Estados on session.conSistema
+// A user's name goes into statements between apostrophes (the rights tests,
+// the settlement's stamp): a name holding one is refused where users are
+// registered, with kNomeUsuarioInvalido.
+bool NomeUsuarioValido(const QString &nome);
+inline const QString kNomeUsuarioInvalido = QStringLiteral("O nome do usuário não pode conter apóstrofo (') !");

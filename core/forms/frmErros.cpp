@@ -64,6 +64,9 @@ frmErros::frmErros(QWidget *parent) : QDialog(parent)
         session.cancelaGrava = false;
         accept();
     });
+    // Closed any other way (the close box, Escape) the save does not go on:
+    // only Sim lets it.
+    connect(this, &QDialog::rejected, this, [] { session.cancelaGrava = true; });
     aplicaTeclado(*this);
 
     // Load: the filled rows of the list.

@@ -139,6 +139,9 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 
 // ---- Every register in the main window's work area, as the program opens it ----
 #include "support/scriptedprompter.h"
+#include "registerssupport.h"
+#include "core/widgets/maskedit.h"
+#include "core/widgets/modal.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmTTipAp.h"
@@ -309,4 +312,27 @@ TEST(Registros, EnterAfterANewCodeGoesToTheFieldsAndTabFollowsThem)
         EXPECT_EQ(visitados, esperados);
         form->cmdCancelar_Click();
     }
+}
+
+TEST(Registros, TheErrorsListClosedByItsCloseBoxSavesNothing)
+{
+    AreaDeTrabalho t;
+    ScriptedPrompter p;
+    p.answer(vbYes, QStringLiteral("Código Não Cadastrado, Incluir Novo ?"));
+    auto *form = new frmBlocos;
+    t.abre(form);
+    form->findChild<MaskEdit *>(QStringLiteral("mskCodigo"))->setText(QStringLiteral("05"));
+    form->mskCodigo_LostFocus();
+    ASSERT_EQ(form->modo(), 3);
+    const ModalHandler antes = setModalHandler([](QDialog &d) {
+        d.show();
+        d.close();
+    });
+    StatementLog log;
+    form->cmdGravar_Click();  // the description is empty: a fatal finding
+    setModalHandler(antes);
+    EXPECT_TRUE(log.startingWith(QStringLiteral("INSERT")).isEmpty());
+    EXPECT_EQ(form->modo(), 3);
+    EXPECT_FALSE(session.cancelaGrava);
+    form->cmdCancelar_Click();
 }
