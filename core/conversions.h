@@ -10,11 +10,6 @@
 #include <QDate>
 #include <QString>
 
-// The register forms still reach the validators and the scrambling through
-// this header; once they include their own, these two lines go.
-#include "core/scramble.h"
-#include "core/validators.h"
-
 // ---- Field helpers of the system ------------------------------------------
 QString trimBlanks(const QString &text);                  // trims as the system trims: blanks only, not tabs
 QString ZeroEsq(const QString &text, int width);          // trims; longer than width: RunFailure

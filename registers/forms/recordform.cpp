@@ -6,6 +6,7 @@
 #include "core/prompter.h"
 #include "core/session.h"
 #include "core/val.h"
+#include "core/validators.h"
 #include "core/widgets/campos.h"
 #include "core/widgets/datefield.h"
 #include "core/widgets/grade.h"

@@ -5,6 +5,7 @@
 #include "support/scriptedprompter.h"
 
 #include "core/conversions.h"
+#include "core/validators.h"
 #include "core/datastore.h"
 #include "core/forms/frmTrocasen.h"
 #include "core/session.h"
