@@ -66,6 +66,14 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     if (!base.isValid())
         throw RunFailure(QStringLiteral("Tipos incompatíveis"));
     const int mesBase = base.month();
+    const QDate inicio = primeiroDia(mesBase, yy);
+    const QDate fim(inicio.year(), mesBase, UltimoDia(inicio).toInt());
+    if (!fim.isValid())
+        throw RunFailure(QStringLiteral("Tipos incompatíveis"));
+    const QString periodo = entre(inicio, fim);
+    // The year's journal is read before anything is wiped: without it the
+    // run stops on its first reading and leaves Plano as it was.
+    con.Execute(QStringLiteral("SELECT ctadeb,vlrlan FROM ") + tabela + periodo + QStringLiteral(" ORDER BY ctadeb"));
 
     p.overallMin = 1, p.overallMax = 5, p.overallValue = 1;
     p.min = 1, p.max = 12, p.value = 1;
@@ -95,11 +103,6 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     {
         Transaction passo2(con);
         const int m = mesBase;
-        const QDate inicio = primeiroDia(m, yy);
-        const QDate fim(inicio.year(), m, UltimoDia(inicio).toInt());
-        if (!fim.isValid())
-            throw RunFailure(QStringLiteral("Tipos incompatíveis"));
-        const QString periodo = entre(inicio, fim);
         somaLado(con, tabela, QStringLiteral("ctadeb"), colunaMes(QStringLiteral("vd"), m), periodo);
         somaLado(con, tabela, QStringLiteral("ctacre"), colunaMes(QStringLiteral("vc"), m), periodo);
         passo2.commit();

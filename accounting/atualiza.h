@@ -22,9 +22,10 @@ inline const QString kPasso4 = QStringLiteral("Passo 4/4: Calculando Saldos Sint
 inline const QString kAtualizacaoFinalizada = QStringLiteral("Atualização de Saldos Finalizada !!!");
 
 // The run of cmdAtualiza for the text of tdbAnomesfim ("mm/yyyy"). The field
-// is not validated: a text that is not a month, a missing year table or a
-// Null in a monthly column stops the run (RunFailure or DatabaseError), and
-// the months from the base month on stay wiped until the run is repeated.
+// is not validated: a text that is not a month or a missing year table stops
+// the run (RunFailure or DatabaseError) before anything is written; a Null in
+// a monthly column stops it halfway, and the months from the base month on
+// stay wiped until the run is repeated.
 void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn &progresso = {});
 
 // The form's unload: records the chosen month when the field was changed and

@@ -23,6 +23,11 @@ void completaBoleto(Boleto &b, const QString &banco, const ReciboBanco &r)
 
 Boleto calculaBoleto(const QString &banco, const ReciboBanco &r, const ParametrosBanco &p, int32_t contador422)
 {
+    if (!cabeNoCodigoDeBarras(r.vtotal)) {
+        Boleto refused;
+        refused.recusa = QStringLiteral("Recibo ") + r.codigo + QStringLiteral(": ") + kValorForaDoCodigo;
+        return refused;
+    }
     if (banco == u"001")
         return Banco001(r, p);
     if (banco == u"104")

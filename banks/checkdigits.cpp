@@ -154,8 +154,17 @@ int16_t Fator_Vencimento(const QDate &vencimento)
     return int16_t(days);
 }
 
+bool cabeNoCodigoDeBarras(Money valor)
+{
+    // 99.999.999,99 and whatever rounds to it: ten digits of centavos.
+    constexpr int64_t limite = 999'999'999'949;
+    return valor.units() <= limite && valor.units() >= -limite;
+}
+
 QString valorBarra(Money valor)
 {
+    if (!cabeNoCodigoDeBarras(valor))
+        throw RunFailure(kValorForaDoCodigo);
     return formatMoney(Money::fromUnits(valor.units() * 100), QStringLiteral("0000000000"));
 }
 

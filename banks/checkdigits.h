@@ -29,8 +29,13 @@ QString Modulo11Direto(const QString &digits);      // 2..7; remainder 10 gives 
 // outside 16 bits, stops the run (RunFailure).
 int16_t Fator_Vencimento(const QDate &vencimento);
 
-// The value in centavos as ten digits ("0000123450" for R$ 1.234,50).
+// The value in centavos as ten digits ("0000123450" for R$ 1.234,50). A value
+// the ten digits cannot hold (above 99.999.999,99) stops the run (RunFailure
+// with kValorForaDoCodigo); the bank rules refuse it before they get here.
 QString valorBarra(Money valor);
+bool cabeNoCodigoDeBarras(Money valor);
+inline const QString kValorForaDoCodigo =
+    QStringLiteral("Valor acima de R$ 99.999.999,99 não cabe no código de barras !");
 
 // Bank, currency, factor, value and free field, with the general digit
 // (Modulo11Barra of the other 43) put in at position 5.

@@ -205,6 +205,11 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
     for (; !rs.eof(); rs.moveNext()) {
         const ReciboBanco r{rs["codigo"].text(), rs["vtotal"].toMoney(), rs["dvencto"].toDate()};
         form.trabalho = calculaBoleto(banco, r, d.parametros, contador);
+        if (!form.trabalho.recusa.isEmpty()) {
+            file.close();
+            MsgBox(form.trabalho.recusa, vbOKOnly, QStringLiteral("Atenção !"));
+            return FimRemessa::Recusado;
+        }
         // The receipt's bank fields and the read of its unit are one step.
         Transaction passo(con);
         con.Execute(updateRecibosBanco(d.dataGeracao, form.trabalho, banco, r.codigo));

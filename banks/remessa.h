@@ -90,6 +90,7 @@ enum class FimRemessa {
     SemRegistros,
     ContaItauLonga,      // 341 account of more than 6 digits: an empty file stays
     AptoNaoLocalizado,   // the file stays without a trailer
+    Recusado,            // a receipt the rule refused (a value the bar code cannot hold): no trailer
 };
 
 FimRemessa cmdGerarR(Connection &con, FormRemessa &form);

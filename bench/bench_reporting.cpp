@@ -87,6 +87,25 @@ void BM_Slips1000WithBarCode(benchmark::State &state)
 }
 BENCHMARK(BM_Slips1000WithBarCode)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
 
+// One text item of N bytes, growing over as many pages as it needs, and the
+// same text in a plain one-line item: the time should grow with N, not N².
+void BM_LongTextItem(benchmark::State &state)
+{
+    const ReportTemplate tpl = parseTemplate(QStringLiteral("band detail height=10\n"
+                                                            "  text 0 0 180 5 \"{texto}\" grow\n"
+                                                            "  text 0 5 180 5 \"{texto}\"\n"
+                                                            "end\n"),
+                                             QStringLiteral("Longo.rpt"));
+    ReportData d;
+    d.columns = {QStringLiteral("texto")};
+    QString texto;
+    while (texto.size() < state.range(0))
+        texto += QStringLiteral("Ata da assembleia de condôminos, item %1. ").arg(texto.size());
+    d.rows.push_back({texto.left(qsizetype(state.range(0)))});
+    renderToPdf(state, tpl, d);
+}
+BENCHMARK(BM_LongTextItem)->Arg(1 << 16)->Arg(1 << 18)->Arg(1 << 20)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
+
 } // namespace
 
 int main(int argc, char **argv)

@@ -600,3 +600,5 @@ QString bareText(const QString &masked)
             result += c;
     return result;
 }
+
+bool NomeUsuarioValido(const QString &nome) { return !nome.contains(u'\''); }

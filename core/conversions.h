@@ -38,6 +38,11 @@ QString SemAcento(const QString &text);                   // accents off, apostr
 bool ValidaCPF(const QString &text);                      // messages through the prompter
 bool ValidaCGC(const QString &text);
 bool ValidaUF(const QString &uf);                         // reads Estados on session.conSistema
+// A user's name goes into statements between apostrophes (the rights tests,
+// the settlement's stamp): a name holding one is refused where users are
+// registered, with kNomeUsuarioInvalido.
+bool NomeUsuarioValido(const QString &nome);
+inline const QString kNomeUsuarioInvalido = QStringLiteral("O nome do usuário não pode conter apóstrofo (') !");
 
 // ---- Scrambling of passwords -----------------------------------------------
 QString EmbaralhaAdm(const QString &text);                // parity even, offset 0

@@ -11,6 +11,7 @@
 #include "core/transaction.h"
 #include "core/val.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <utility>
 #include <QHash>
@@ -488,6 +489,22 @@ int jetNocase(void *, int n1, const void *p1, int n2, const void *p2)
     return sortKey(ta, true).compare(sortKey(tb, true));
 }
 
+// A value written to a money column: rounded to four places as the currency
+// type holds it; beyond its range the statement fails and writes nothing.
+void fnMoney(sqlite3_context *ctx, int, sqlite3_value **argv)
+{
+    const int type = sqlite3_value_type(argv[0]);
+    if (type != SQLITE_INTEGER && type != SQLITE_FLOAT) {
+        sqlite3_result_value(ctx, argv[0]);
+        return;
+    }
+    try {
+        sqlite3_result_double(ctx, Money::fromDouble(sqlite3_value_double(argv[0])).toDouble());
+    } catch (const std::overflow_error &) {
+        sqlite3_result_error(ctx, "Estouro de capacidade", -1);
+    }
+}
+
 void registerFunctions(sqlite3 *db)
 {
     sqlite3_create_collation_v2(db, "NOCASE", SQLITE_UTF8, nullptr, jetNocase, nullptr);
@@ -500,7 +517,8 @@ void registerFunctions(sqlite3 *db)
                              {"jet_round", 1, fnRound}, {"jet_round", 2, fnRound},    {"jet_isnull", 1, fnIsNull},
                              {"mid", 2, fnMid},         {"mid", 3, fnMid},            {"len", 1, fnLen},
                              {"ucase", 1, fnUcase},     {"lcase", 1, fnLcase},        {"year", 1, fnDatePart<0>},
-                             {"month", 1, fnDatePart<1>}, {"day", 1, fnDatePart<2>}, {"int", 1, fnInt}};
+                             {"month", 1, fnDatePart<1>}, {"day", 1, fnDatePart<2>}, {"int", 1, fnInt},
+                             {"jet_money", 1, fnMoney}};
     for (const Fn &f : fns)
         sqlite3_create_function_v2(db, f.name, f.args, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, f.fn, nullptr,
                                    nullptr, nullptr);
@@ -883,6 +901,11 @@ void Connection::Open(const QString &connectionString)
     if (path.isEmpty() || !QFileInfo(path).isFile())
         throw DatabaseError(QStringLiteral("Não foi possível encontrar o arquivo '%1'.").arg(path), connectionString);
 
+    // Anything else (an empty file above all) would be taken for an empty
+    // database and changed on the first statement.
+    if (!isSystemFile(path))
+        throw DatabaseError(QStringLiteral("Formato de banco de dados '%1' não reconhecido.").arg(path), connectionString);
+
     sqlite3 *db = nullptr;
     const QByteArray p = path.toUtf8();
     // A connection belongs to one thread: SQLite's own locking of it is not needed.
@@ -930,6 +953,25 @@ Recordset Connection::Execute(const QString &sql, long *recordsAffected)
     Recordset rs;
     impl_->execute(sql, rs.impl_.get(), recordsAffected);
     return rs;
+}
+
+bool Connection::isSystemFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.read(16) != QByteArray("SQLite format 3", 16))
+        return false;
+    file.close();
+    sqlite3 *db = nullptr;
+    bool found = false;
+    if (sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK) {
+        sqlite3_stmt *st = nullptr;
+        if (sqlite3_prepare_v2(db, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'Parametros' COLLATE NOCASE",
+                               -1, &st, nullptr) == SQLITE_OK)
+            found = sqlite3_step(st) == SQLITE_ROW;
+        sqlite3_finalize(st);
+    }
+    sqlite3_close(db);
+    return found;
 }
 
 void Connection::createFile(const QString &path)

@@ -95,6 +95,9 @@ public:
     // Creates a new database file with every table of the schema (used by
     // tools/mkdb). An existing file is an error; it is never overwritten.
     static void createFile(const QString &path);
+    // True for a database file of the system: SQLite's header and the
+    // Parametros table every file of the system has. Reads the file only.
+    static bool isSystemFile(const QString &path);
 
     struct Impl;
     Impl *impl() const { return impl_.get(); }

@@ -29,6 +29,7 @@ bool isLiteral(const Token &t)
 }
 
 const QString kTypeMismatch = QStringLiteral("Tipo de dados incompatível na expressão de critério.");
+const QString kOverflow = QStringLiteral("Estouro de capacidade");
 
 } // namespace
 
@@ -472,11 +473,46 @@ private:
         return u'\'' + s + u'\'';
     }
 
+    // An expression assigned to a money column by UPDATE ... SET goes through
+    // jet_money(), which rounds it to four places and fails the statement when
+    // the currency cannot hold it. A bare literal is checked when it is bound.
+    bool wrapsMoney(size_t k, int depth) const
+    {
+        if (depth != 0 || !isOp(t_[k], u"=") || !is(at(0), QLatin1StringView("UPDATE")) ||
+            columnBefore(k) != ColumnKind::Money)
+            return false;
+        const Token &after = at(k + 2);
+        const bool loneLiteral = isLiteral(at(k + 1)) && (after.type == TokenType::End || isOp(after, u",") ||
+                                                          is(after, QLatin1StringView("WHERE")));
+        return !loneLiteral;
+    }
+
     void emitAll()
     {
         const auto target = targets();
+        bool inSet = false, wrapping = false;
+        int depth = 0;
         for (size_t k = 0; k < t_.size(); ++k) {
             const Token &tok = t_[k];
+            if (wrapping && depth == 0 && (isOp(tok, u",") || is(tok, QLatin1StringView("WHERE")))) {
+                put(u")");
+                wrapping = false;
+            }
+            if (is(tok, QLatin1StringView("SET")))
+                inSet = true;
+            else if (is(tok, QLatin1StringView("WHERE")) && depth == 0)
+                inSet = false;
+            if (isOp(tok, u"("))
+                ++depth;
+            else if (isOp(tok, u")"))
+                --depth;
+            if (inSet && !wrapping && wrapsMoney(k, depth)) {
+                put(u"=");
+                put(u"jet_money");
+                put(u"(");
+                wrapping = true;
+                continue;
+            }
             // IN '<file>' after a table: the table is read from the attached file.
             const auto file = std::find(fileTokens_.begin(), fileTokens_.end(), k + 1);
             if (file != fileTokens_.end() && tok.type == TokenType::Identifier) {
@@ -559,6 +595,8 @@ private:
                 break;
             }
         }
+        if (wrapping)
+            put(u")");
         res_.sql = sql_;
     }
 };
@@ -609,6 +647,10 @@ bool splitNumbers(QStringView text, int parts[3], int widths[3], int &count)
 
 int fullYear(int y, int width) { return width <= 2 ? (y < 30 ? 2000 + y : 1900 + y) : y; }
 
+// The engine's dates run from the year 100 to 9999; anything else is no date
+// (a five-digit year would otherwise reach SQLite as text).
+QDate inRange(const QDate &d) { return d.isValid() && d.year() >= 100 && d.year() <= 9999 ? d : QDate(); }
+
 QStringView datePart(QStringView text)
 {
     text = text.trimmed();
@@ -618,7 +660,8 @@ QStringView datePart(QStringView text)
 
 } // namespace
 
-QDate readDateLiteral(QStringView text)
+namespace {
+QDate literalReading(QStringView text)
 {
     int p[3], w[3], count = 0;
     if (!splitNumbers(datePart(text), p, w, count))
@@ -634,7 +677,7 @@ QDate readDateLiteral(QStringView text)
     return d.isValid() ? d : QDate(year, p[1], p[0]);
 }
 
-QDate readDateText(QStringView text)
+QDate textReading(QStringView text)
 {
     int p[3], w[3], count = 0;
     if (!splitNumbers(datePart(text), p, w, count))
@@ -647,6 +690,11 @@ QDate readDateText(QStringView text)
     QDate d(year, p[1], p[0]);
     return d.isValid() ? d : QDate(year, p[0], p[1]);
 }
+} // namespace
+
+QDate readDateLiteral(QStringView text) { return inRange(literalReading(text)); }
+
+QDate readDateText(QStringView text) { return inRange(textReading(text)); }
 
 std::optional<double> readNumberText(QStringView text)
 {
@@ -724,6 +772,17 @@ double roundHalfEven(double value, int places)
 
 namespace {
 
+// A number as the statement writes it: digits, a decimal point, an exponent.
+std::optional<double> numberToken(QStringView t)
+{
+    const std::string s = t.toString().toStdString();
+    double v = 0;
+    const auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+    if (r.ec != std::errc() || r.ptr != s.data() + s.size())
+        return std::nullopt;
+    return v;
+}
+
 bool isIntegralText(QStringView t)
 {
     for (QChar c : t)
@@ -765,6 +824,17 @@ BoundValue numberValue(double v, ColumnKind kind)
     return b;
 }
 
+// A value the column cannot hold (money beyond the currency's range) fails
+// the one statement, never the run.
+BoundValue checkedValue(double v, ColumnKind kind, QStringView statement)
+{
+    try {
+        return numberValue(v, kind);
+    } catch (const std::overflow_error &) {
+        fail(kOverflow, statement);
+    }
+}
+
 } // namespace
 
 BoundValue convert(const Token &token, const ParamTarget &target, QStringView statement)
@@ -777,15 +847,27 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
             b.type = BoundValue::Text;
             return b;
         }
+        if (kind == ColumnKind::Date) {
+            // A bare number meets a date column as the engine's day count
+            // (0 is 30/12/1899); the fraction is the time of day.
+            const std::optional<double> v = numberToken(token.text);
+            const QDate d = v && std::fabs(*v) < 3e6 ? inRange(QDate(1899, 12, 30).addDays(qint64(std::floor(*v))))
+                                                     : QDate();
+            if (!d.isValid())
+                fail(QStringLiteral("Erro de sintaxe na data na expressão de consulta."), statement);
+            b.type = BoundValue::Text;
+            b.text = d.toString(Qt::ISODate);
+            return b;
+        }
         if (isIntegralText(token.text) && kind != ColumnKind::Money && kind != ColumnKind::Boolean) {
             b.type = BoundValue::Integer;
             b.i = token.text.toLongLong();
             return b;
         }
-        const std::optional<double> v = readNumberText(token.text);
+        const std::optional<double> v = numberToken(token.text);
         if (!v)
             fail(kTypeMismatch, statement);
-        return numberValue(*v, kind.value_or(ColumnKind::Number));
+        return checkedValue(*v, kind.value_or(ColumnKind::Number), statement);
     }
     case TokenType::Date: {
         const QDate d = readDateLiteral(token.text);
@@ -836,7 +918,7 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
         const std::optional<double> v = readNumberText(text);
         if (!v)
             fail(kTypeMismatch, statement);
-        return numberValue(*v, *kind);
+        return checkedValue(*v, *kind, statement);
     }
     }
 }

@@ -9,6 +9,8 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSet>
+#include <limits>
+#include <optional>
 
 void ReportData::setFormula(const QString &name, const QString &value)
 {
@@ -48,12 +50,17 @@ QFont makeFont(const FontSpec &wanted)
 
 // Amounts arrive as the data store's plain text ("1234,5"); a point before a
 // comma is a thousands separator.
-Money amountOf(const QString &text)
+// Nothing when the currency cannot hold the amount.
+std::optional<Money> amountOf(const QString &text)
 {
     QString t = text.trimmed();
     if (t.contains(u','))
         t.remove(u'.');
-    return Money::fromDouble(val(VirgulaPonto(t)));
+    try {
+        return Money::fromDouble(val(VirgulaPonto(t)));
+    } catch (const std::overflow_error &) {
+        return std::nullopt;
+    }
 }
 
 bool isNumberPicture(const QString &picture)
@@ -103,6 +110,14 @@ private:
     QHash<QString, int> columns_;       // lower-case name -> index
     QHash<QString, QString> formulas_;  // lower-case name -> value
     QSet<QString> noted_;
+    // The last wrapped text measured: a band that moves to the next page is
+    // prepared again, and a long text is not measured twice.
+    struct Measure {
+        int font = -1;
+        double width = 0;
+        QString text;
+        double height = 0;
+    } measured_;
     QStringList sumFields_;             // lower-case
     std::vector<int> sumColumns_;
     std::vector<QFont> fonts_;
@@ -228,9 +243,13 @@ std::vector<Prepared> Layout::prepare(const Band &band, double &height)
         if (it.kind == Item::Text || it.kind == Item::Barcode)
             p.text = resolveText(it.parts, band.group);
         if (it.kind == Item::Text && it.grow) {
-            const QFontMetricsF fm(fonts_[size_t(fontIndex(it.font))]);
-            const QRectF need = fm.boundingRect(QRectF(0, 0, it.w * kUnits, 1e7), Qt::TextWordWrap | Qt::AlignLeft, p.text);
-            p.height = std::max(it.h, need.height() / kUnits);
+            const int font = fontIndex(it.font);
+            if (measured_.font != font || measured_.width != it.w || measured_.text != p.text) {
+                const QFontMetricsF fm(fonts_[size_t(font)]);
+                const QRectF need = fm.boundingRect(QRectF(0, 0, it.w * kUnits, 1e7), Qt::TextWordWrap | Qt::AlignLeft, p.text);
+                measured_ = {font, it.w, p.text, need.height() / kUnits};
+            }
+            p.height = std::max(it.h, measured_.height);
             height = std::max(height, band.height + (p.height - it.h));
         }
         out.push_back(std::move(p));
@@ -353,8 +372,17 @@ void Layout::addToTotals(const QStringList &row)
         ++t.count;
         for (int i = 0; i < sumFields_.size(); ++i) {
             const int c = sumColumns_[size_t(i)];
-            if (c >= 0 && c < row.size())
-                t.sums[sumFields_[i]] += amountOf(row[c]);
+            if (c < 0 || c >= row.size())
+                continue;
+            // An amount beyond the currency, or a sum that would pass it, is
+            // left out of the sum and noted; the report goes on.
+            const std::optional<Money> v = amountOf(row[c]);
+            Money &sum = t.sums[sumFields_[i]];
+            int64_t total = 0;
+            if (!v || __builtin_add_overflow(sum.units(), v->units(), &total))
+                note(QStringLiteral("Valor fora da capacidade, fora da soma de %1: %2").arg(sumFields_[i], row[c]));
+            else
+                sum = Money::fromUnits(total);
         }
     };
     for (Totals &t : groupTotals_)
@@ -488,8 +516,11 @@ QString formatValue(const QString &text, const QString &picture)
         return QString();
     if (picture.contains(u'@'))
         return formatText(text, picture);
-    if (isNumberPicture(picture))
-        return formatMoney(amountOf(text), picture);
+    if (isNumberPicture(picture)) {
+        // A value the picture's number cannot hold prints as it came.
+        const std::optional<Money> amount = amountOf(text);
+        return amount ? formatMoney(*amount, picture) : text;
+    }
     if (isDatePicture(picture)) {
         const QDate d = dateFromText(text.trimmed());
         return d.isValid() ? formatDate(d, picture) : text;
@@ -501,6 +532,38 @@ ReportDocument renderReport(const ReportTemplate &tpl, const ReportData &data)
 {
     return Layout(tpl, data).run();
 }
+
+namespace {
+// How much of a text can show on the page: each line holds at most the box's
+// width over the narrowest advance among its characters (with room for
+// kerning), and a wrapped text shows only the lines above the page's bottom.
+// Drawing only that keeps a text of a megabyte from being shaped whole for
+// the few lines that print. Anything the bound cannot be sure of (zero-width
+// characters, surrogates, line breaks in an unwrapped text) is drawn whole.
+qsizetype visibleLength(const QString &text, const QFontMetricsF &fm, const QRectF &box, double pageWidth,
+                        double pageBottom, bool wrap)
+{
+    if (text.size() < 4096)
+        return text.size();
+    double least = std::numeric_limits<double>::max();
+    QSet<char16_t> seen;
+    for (QChar c : text) {
+        if (seen.contains(c.unicode()))
+            continue;
+        seen.insert(c.unicode());
+        if (c.isSurrogate() || (!wrap && (c == u'\n' || c == u'\r' || c == QChar::LineSeparator)))
+            return text.size();
+        least = std::min(least, fm.horizontalAdvance(c));
+    }
+    if (least <= 0)
+        return text.size();
+    const double width = wrap ? box.width() : std::max(box.width(), pageWidth);
+    const double perLine = width / least * 1.25 + 2;
+    const double lines = wrap ? std::max(0.0, pageBottom - box.top()) / fm.lineSpacing() + 2 : 1;
+    const double bound = perLine * lines;
+    return bound < double(text.size()) ? qsizetype(bound) : text.size();
+}
+} // namespace
 
 void paintPage(QPainter &painter, const ReportDocument &doc, int index, double dotsPerMm)
 {
@@ -532,7 +595,12 @@ void paintPage(QPainter &painter, const ReportDocument &doc, int index, double d
             painter.setPen(Qt::black);
             // A framed text keeps a small inner margin off its frame.
             const double pad = op.box ? 0.8 * kUnits : 0;
-            painter.drawText(r.adjusted(pad, 0, -pad, 0), op.flags, text);
+            const QRectF box = r.adjusted(pad, 0, -pad, 0);
+            const bool wrap = op.flags & Qt::TextWordWrap;
+            if (wrap || (op.flags & Qt::AlignLeft))
+                text.truncate(visibleLength(text, QFontMetricsF(painter.font()), box, doc.pageWidth() * kUnits,
+                                            doc.pageHeight() * kUnits, wrap));
+            painter.drawText(box, op.flags, text);
             break;
         }
         case DrawOp::Line:

@@ -63,6 +63,7 @@ private:
     ReportTemplate t_;
     Band *open_ = nullptr;   // the band being read, until its "end"
     int openLine_ = 0;
+    int pageLine_ = 0, marginsLine_ = 0;    // where the page and its margins were given
 };
 
 std::vector<Token> Parser::tokenize(const QString &line)
@@ -292,6 +293,7 @@ void Parser::parseBand(const std::vector<Token> &tokens)
         }
         i = 3;
     }
+    bool temAltura = false;
     for (; i < tokens.size(); ++i) {
         if (!tokens[i].quoted && tokens[i].text == QLatin1String("when")) {
             b.when = parseCondition(tokens, i + 1);
@@ -302,10 +304,14 @@ void Parser::parseBand(const std::vector<Token> &tokens)
             b.height = number(Token{value, false}, "height");
             if (b.height < 0)
                 fail(QStringLiteral("height não pode ser negativa"));
+            temAltura = true;
         }
         else
             fail(QStringLiteral("opção desconhecida em band: \"%1\"").arg(tokens[i].text));
     }
+    // A label's band takes the label's height; every other band says its own.
+    if (!temAltura && t_.labels.columns == 0)
+        fail(QStringLiteral("band %1 sem height=").arg(tokens[1].text));
     if (t_.band(b.kind, b.group))
         fail(QStringLiteral("band %1 repetida").arg(tokens[1].text));
     if (t_.labels.columns > 0 && b.kind != BandKind::Detail)
@@ -426,6 +432,7 @@ ReportTemplate Parser::parse(const QString &text)
         if (word == QLatin1String("band")) {
             parseBand(tokens);
         } else if (word == QLatin1String("page")) {
+            pageLine_ = line_;
             if (tokens.size() < 2)
                 fail(QStringLiteral("page precisa do tamanho do papel"));
             size_t i = 1;
@@ -455,6 +462,7 @@ ReportTemplate Parser::parse(const QString &text)
                     fail(QStringLiteral("opção desconhecida em page: \"%1\"").arg(tokens[i].text));
             }
         } else if (word == QLatin1String("margins")) {
+            marginsLine_ = line_;
             if (tokens.size() != 5)
                 fail(QStringLiteral("margins precisa de esquerda, topo, direita e base"));
             t_.marginLeft = number(tokens[1], "a margem");
@@ -483,7 +491,8 @@ ReportTemplate Parser::parse(const QString &text)
     // The body between header and footer must hold at least the detail band.
     const double body = t_.pageHeight() - t_.marginTop - t_.marginBottom;
     if (body <= 0)
-        throw TemplateError(file_, 1, QStringLiteral("as margens não deixam espaço na página"));
+        throw TemplateError(file_, marginsLine_ ? marginsLine_ : pageLine_ ? pageLine_ : 1,
+                            QStringLiteral("as margens não deixam espaço na página"));
     return t_;
 }
 

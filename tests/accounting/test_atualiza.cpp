@@ -131,4 +131,8 @@ TEST_F(Contabil, AtualizaReportsItsPassesInOrder)
 
     // The field is not validated: an empty month stops the run.
     EXPECT_THROW(AtualizaSaldos(con, kEmptyMonthYear), RunFailure);
+    // A year without its journal table stops it before anything is wiped.
+    poe(S("03.001"), S("sf07"), S("70"));
+    EXPECT_THROW(AtualizaSaldos(con, S("06/2009")), DatabaseError);
+    EXPECT_EQ(plano(S("03.001"), S("sf07")), reais("70"));
 }

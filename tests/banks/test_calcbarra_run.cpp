@@ -104,7 +104,15 @@ TEST(CalcBarraRun, StopsAndMessages)
         ASSERT_EQ(prompts.calls.size(), 1u);
         EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("Atenção, Não foi estabelecido o número de convênio")));
     }
-    for (const char *codigo : {"000001", "000002", "000003"})
+    {
+        // A value the bar code's ten digits cannot hold: refused, no bar code kept.
+        file.recibo(QStringLiteral("000004"), QStringLiteral("000101"), QStringLiteral("100000000"), QStringLiteral("01/15/2007"));
+        ScriptedPrompter prompts;
+        FormCalcBarra f = form(QStringLiteral("237"), QString(), QStringLiteral("06_"));
+        EXPECT_EQ(cmdCalcBarra(file.con, f, QStringLiteral("4")), FimCalcBarra::Recusado);
+        EXPECT_TRUE(prompts.last().text.contains(kValorForaDoCodigo));
+    }
+    for (const char *codigo : {"000001", "000002", "000003", "000004"})
         EXPECT_EQ(file.coluna(QString::fromLatin1(codigo), "barrabco"), QString()) << codigo;
 }
 

@@ -2,6 +2,7 @@
 #include "core/conversions.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 const std::vector<QString (*)(const QString &)> allRoutines{Modulo10,      Modulo10Pesos,      Modulo11Barra,
@@ -110,6 +111,10 @@ TEST(CheckDigits, MontaBarraAndMontaLinhaPutTheFieldsInPlace)
 
     EXPECT_EQ(valorBarra(Money::fromDouble(1234.50)), QStringLiteral("0000123450"));
     EXPECT_EQ(valorBarra(Money()), QStringLiteral("0000000000"));
+    // Ten digits of centavos hold up to 99.999.999,99; more stops the run.
+    EXPECT_EQ(valorBarra(Money::fromUnits(999'999'999'900)), QStringLiteral("9999999999"));
+    for (const int64_t units : {int64_t(1'000'000'000'000), std::numeric_limits<int64_t>::max()})
+        EXPECT_THROW(valorBarra(Money::fromUnits(units)), RunFailure) << units;
 
     // A factor of 3 or 5 digits is left as it falls: the code is shorter or longer.
     EXPECT_EQ(Monta_Barra(QStringLiteral("341"), QStringLiteral("9"), Money::fromDouble(1), 999, livre).size(), 43);

@@ -5,7 +5,11 @@
 #include "support/fixtures.h"
 #include "support/habtoolrun.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 TEST(HabtoolSql, PrintsRowsCountsAndErrors)
@@ -30,6 +34,85 @@ TEST(HabtoolSql, PrintsRowsCountsAndErrors)
     const HabtoolResult ok = habtool({"sql", dir.file("Con001.mdb")}, "SELECT Count(codigo) As I FROM Aptos\n");
     EXPECT_EQ(ok.exitCode, 0);
     EXPECT_EQ(ok.out, "I\n0\n");
+    // Money beyond the currency fails its own statement; the next one runs.
+    const HabtoolResult big = habtool({"sql", dir.file("Con001.mdb")},
+                                      "INSERT INTO Aptos (codigo,honor) VALUES ('000102','1')\n"
+                                      "UPDATE Aptos SET honor = honor * 1e300\n"
+                                      "SELECT honor FROM Aptos\n");
+    EXPECT_EQ(big.exitCode, 1);
+    EXPECT_EQ(big.out, "OK 1\nERROR Estouro de capacidade\nhonor\n1\n");
+}
+
+// Every command that opens a database file refuses a file that is none of the
+// system's (an empty one above all) and leaves it as it was; a missing file
+// ends with the same status.
+TEST(HabtoolConsole, RefusesFilesThatAreNoDatabaseOfTheSystem)
+{
+    QTemporaryDir dir;
+    const QString vazio = dir.filePath("Con001.mdb");
+    const QString sumiu = dir.filePath("Con002.mdb");
+    QFile(vazio).open(QIODevice::WriteOnly);
+    const QList<QStringList> chamadas = {
+        {"sql"}, {"atualiza", "06/2008"}, {"balancete", "2008", "3"}, {"pcontas", "2008", "3"}, {"razao", "2008", "3"},
+        {"demonstrativo", "1", "3", "2008"}, {"emite"}, {"baixa", "1", "15/03/2003", "Caixa"}, {"recalc"},
+        {"eventtot", "WHERE situacao = 'A'"}, {"ajusta", "honor=1"}, {"barras"}, {"remessa", dir.filePath("R.TXT")}};
+    for (const QString &arquivo : {vazio, sumiu})
+        for (QStringList args : chamadas) {
+            args.insert(1, arquivo);
+            const HabtoolResult r = habtool(args);
+            EXPECT_EQ(r.exitCode, 2) << qPrintable(args.join(u' '));
+            EXPECT_TRUE(r.err.contains(arquivo)) << qPrintable(args.join(u' ')) << qPrintable(r.err);
+        }
+    EXPECT_EQ(QFileInfo(vazio).size(), 0);
+    EXPECT_FALSE(QFileInfo::exists(sumiu));
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{"Con001.mdb"});
+}
+
+// Numbers, dates and user names are read once, and what is not well formed is
+// refused naming the argument, before anything runs.
+TEST(HabtoolConsole, RefusesMalformedArgumentsNamingThem)
+{
+    TempProgramDir dir;
+    dir.makeCondominium(1);
+    const QString f = dir.file("Con001.mdb");
+    const struct {
+        QStringList args;
+        const char *nome;
+    } casos[] = {
+        {{"ajusta", f, "honor=1.2.3,4"}, "honor"},
+        {{"ajusta", f, "honcb=12a"}, "honcb"},
+        {{"ajusta", f, "normal=32"}, "normal"},
+        {{"ajusta", f, "normal=-1"}, "normal"},
+        {{"ajusta", f, "apos=99999999999999999999"}, "apos"},
+        {{"extenso", "5,"}, "VALOR"},
+        {{"extenso", "0,001"}, "VALOR"},
+        {{"extenso", "-5"}, "VALOR"},
+        {{"extenso", "5", "37", "x"}, "LARGURA2"},
+        {{"boleto", "341", "vtotal=1,2,3"}, "vtotal"},
+        {{"boleto", "341", "vtotal=99999999999999999999"}, "vtotal"},
+        {{"boleto", "341", "dvencto=31/02/2008"}, "dvencto"},
+        {{"fator", "1/1/20080"}, "vencimento"},
+        {{"atualiza", f, "13/2008"}, "mês"},
+        {{"balancete", f, "2008", "0"}, "MESINI"},
+        {{"balancete", f, "2008", "3", "2"}, "MESFIN"},
+        {{"pcontas", f, "2008", "3x"}, "MES"},
+        {{"razao", f, "08", "3"}, "ANO"},
+        {{"demonstrativo", f, "3", "3", "2008"}, "MODELO"},
+        {{"barras", f, "--recibo", "abc"}, "--recibo"},
+        {{"barras", f, "--data", "32/01/2008"}, "--data"},
+        {{"baixa", f, "1", "15/13/2003", "Caixa"}, "data"},
+        {{"baixa", f, "x", "15/03/2003", "Caixa"}, "NUMERO"},
+        {{"baixa", f, "1", "15/03/2003", "Maria D'Ávila"}, "USUARIO"},
+        {{"baixa", f, "1", "15/03/2003", "x' OR '1'='1"}, "USUARIO"},
+        {{"baixa", f, "1", "--desfaz", "7x"}, "CODIGO"},
+    };
+    for (const auto &c : casos) {
+        const HabtoolResult r = habtool(c.args);
+        EXPECT_EQ(r.exitCode, 2) << qPrintable(c.args.join(u' '));
+        EXPECT_TRUE(r.err.contains(QString::fromUtf8(c.nome) + QStringLiteral(" inválido: \"")))
+            << qPrintable(c.args.join(u' ')) << " -> " << qPrintable(r.err);
+        EXPECT_TRUE(r.out.isEmpty()) << qPrintable(c.args.join(u' '));
+    }
 }
 
 // A process killed while it writes leaves a sound file holding every

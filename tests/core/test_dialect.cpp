@@ -285,3 +285,38 @@ TEST_F(Dialect, ALoopOfOneShapeReadsEachStatementsOwnValues)
     EXPECT_FALSE(one("SELECT nome FROM Aptos WHERE codigo = '000001'").isNull());
     EXPECT_EQ(one("SELECT nome FROM Aptos WHERE codigo = '000002'").text(), "O'Hara \"Jr\"");
 }
+
+TEST_F(Dialect, OutOfRangeDatesAndMoneyFailTheOneStatementAndWriteNothing)
+{
+    exec("INSERT INTO Recibos (codigo,codap,dvencto) VALUES ('000001','000101',#01/10/2008#)");
+    exec("INSERT INTO Moradores(nome,codap) VALUES (\"Ana\",'000101')");
+    exec("INSERT INTO Aptos (codigo,nome,honor) VALUES ('000101',\"Ana\",'1000')");
+    // Every road into a date column: literal, quoted text, bare number.
+    for (const char *sql : {"DELETE FROM Recibos WHERE dvencto > #12/31/20080#",
+                            "UPDATE Recibos SET dvencto = #31/12/99999#",
+                            "UPDATE Recibos SET dvencto = '31/12/99999'",
+                            "SELECT * FROM Recibos WHERE dvencto < '01/01/10000'",
+                            "UPDATE Moradores SET nascto = 99999999",
+                            // Money the currency cannot hold, written bare, quoted or computed.
+                            "UPDATE Aptos SET honor = 1e300",
+                            "UPDATE Aptos SET honor = '999999999999999999'",
+                            "UPDATE Aptos SET honor = honor * 1e20 WHERE codigo = '000101'",
+                            "UPDATE Aptos SET nome = 'x', honcb = (honor * 1e20), honfr = 1"}) {
+        try {
+            exec(sql);
+            ADD_FAILURE() << "accepted: " << sql;
+        } catch (const DatabaseError &) {
+        }
+    }
+    EXPECT_EQ(one("SELECT Count(codigo) As I FROM Recibos").toInt(), 1);
+    EXPECT_EQ(one("SELECT dvencto FROM Recibos").toDate(), QDate(2008, 1, 10));
+    EXPECT_EQ(one("SELECT nome FROM Aptos").text(), "Ana");
+    EXPECT_EQ(one("SELECT honor FROM Aptos").toMoney(), Money::fromInt(1000));
+    EXPECT_TRUE(one("SELECT honcb FROM Aptos").isNull() || one("SELECT honcb FROM Aptos").toMoney().isZero());
+    // What fits goes through: a day count, and arithmetic rounded to four places.
+    exec("UPDATE Moradores SET nascto = 5");
+    EXPECT_EQ(one("SELECT nascto FROM Moradores").toDate(), QDate(1900, 1, 4));
+    exec("UPDATE Aptos SET honor = honor / 3, honcb = 2 WHERE codigo = '000101'");
+    EXPECT_EQ(one("SELECT honor FROM Aptos").toMoney(), Money::fromUnits(3333333));
+    EXPECT_EQ(one("SELECT honcb FROM Aptos").toMoney(), Money::fromInt(2));
+}

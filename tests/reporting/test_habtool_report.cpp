@@ -55,7 +55,7 @@ TEST(HabtoolReport, RefusesMissingOrBrokenFilesWithAClearMessage)
     write(data, QStringLiteral("a\tb\n1\t2\n"));
 
     const HabtoolResult noTemplate = report({QStringLiteral("NaoExiste"), data, pdf});
-    EXPECT_EQ(noTemplate.exitCode, 1);
+    EXPECT_EQ(noTemplate.exitCode, 2);
     EXPECT_TRUE(noTemplate.err.contains(QStringLiteral("NaoExiste.rpt"))) << qPrintable(noTemplate.err);
     EXPECT_FALSE(QFile::exists(pdf));
 
@@ -74,7 +74,7 @@ TEST(HabtoolReport, RefusesMissingOrBrokenFilesWithAClearMessage)
     EXPECT_TRUE(ragged.err.contains(QStringLiteral("linha 3: 1 colunas, o cabeçalho tem 2"))) << qPrintable(ragged.err);
 
     const HabtoolResult noData = report({good, dir.filePath(QStringLiteral("sumiu.tsv")), pdf});
-    EXPECT_EQ(noData.exitCode, 1);
+    EXPECT_EQ(noData.exitCode, 2);
     EXPECT_TRUE(noData.err.contains(QStringLiteral("sumiu.tsv")));
 
     EXPECT_EQ(report({good, data}).exitCode, 2);

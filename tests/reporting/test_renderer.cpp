@@ -269,6 +269,19 @@ TEST(ReportRenderer, PicturesFormatValues)
     EXPECT_EQ(formatValue(QStringLiteral("não é data"), QStringLiteral("dd/mm/yyyy")), QStringLiteral("não é data"));
     EXPECT_EQ(formatValue(QStringLiteral("  Tevora  "), QStringLiteral("trim")), QStringLiteral("Tevora"));
     EXPECT_EQ(formatValue(QString(), QStringLiteral("#,##0.00")), QString());
+    // A number the currency cannot hold prints as it came.
+    EXPECT_EQ(formatValue(QStringLiteral("1e300"), QStringLiteral("#,##0.00")), QStringLiteral("1e300"));
+}
+
+TEST(ReportRenderer, ACellBeyondItsPictureDoesNotStopTheReport)
+{
+    ReportData d = listingData(1, 2);
+    d.rows[0][3] = QStringLiteral("99999999999999999999");
+    const ReportDocument doc = renderReport(tpl(kListing), d);
+    const QStringList texts = pageTexts(doc);
+    EXPECT_TRUE(texts.contains(QStringLiteral("99999999999999999999")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("Total geral: 2 unidades, 1.002,50"))) << qPrintable(texts.join(u'\n'));
+    EXPECT_FALSE(doc.log.isEmpty());
 }
 
 TEST(ReportRenderer, ALargeListingPaginatesWithoutTrouble)

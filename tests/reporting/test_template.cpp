@@ -160,6 +160,10 @@ TEST(ReportTemplate, ErrorsNameTheFileAndTheLine)
         EXPECT_TRUE(e.startsWith(QStringLiteral("Modelo de relatório Teste.rpt, linha "))) << qPrintable(text) << " -> " << qPrintable(e);
     }
     EXPECT_TRUE(errorOf(QStringLiteral("page A4\n")).contains(QStringLiteral("não tem band detail")));
+    EXPECT_EQ(errorOf(QStringLiteral("page A4\nband detail\n text 0 0 5 5 \"x\"\nend\n")),
+              QStringLiteral("Modelo de relatório Teste.rpt, linha 2: band detail sem height="));
+    EXPECT_EQ(errorOf(QStringLiteral("page 100 50\nfont \"Sans\" 9\nmargins 10 30 10 30\nband detail height=5\nend\n")),
+              QStringLiteral("Modelo de relatório Teste.rpt, linha 3: as margens não deixam espaço na página"));
     EXPECT_TRUE(errorOf(QStringLiteral("end\n")).contains(QStringLiteral("linha 1")));
     EXPECT_TRUE(errorOf(QStringLiteral("labels columns=2 width=10 height=10\nband pageheader height=5\nend\n"))
                     .contains(QStringLiteral("etiquetas")));

@@ -28,20 +28,25 @@ static int cmdAjusta(const QStringList &argumentos)
         if (igual < 0)
             return 2;
         const QString nome = arg.left(igual);
-        const QString valor = VirgulaPonto(arg.mid(igual + 1));
+        const QString valor = arg.mid(igual + 1);
+        bool lido = false;
         if (nome == QLatin1String("honor"))
-            a.honor = Money::fromDouble(val(valor));
+            lido = leValor(nome, valor, a.honor);
         else if (nome == QLatin1String("honcb"))
-            a.honcb = Money::fromDouble(val(valor));
+            lido = leValor(nome, valor, a.honcb);
         else if (nome == QLatin1String("honfr"))
-            a.honfr = Money::fromDouble(val(valor));
+            lido = leValor(nome, valor, a.honfr);
         else if (nome == QLatin1String("normal"))
-            a.normal = int(val(valor));
+            lido = leInteiro(nome, valor, 1, 31, a.normal);
         else if (nome == QLatin1String("apos"))
-            a.apos = int(val(valor));
+            lido = leInteiro(nome, valor, 1, 31, a.apos);
         else
-            return 2;
+            err(QStringLiteral("argumento desconhecido: ") + arg);
+        if (!lido)
+            return kArgumentoInvalido;
     }
+    if (!bancoPresente(arquivo))
+        return kArgumentoInvalido;
     ArquivoCondominio arq(arquivo, sim);
     const bool feito = porTipo ? ajustaPorTipo(arq.con, {AjusteTipo{tipo, a}}) : ajustaTodos(arq.con, a);
     return feito ? 0 : 1;

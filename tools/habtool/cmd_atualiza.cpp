@@ -12,6 +12,8 @@ int cmdAtualiza(const QStringList &args)
         err(QStringLiteral("uso: habtool atualiza ARQUIVO mm/aaaa"));
         return 2;
     }
+    if (!bancoPresente(args.at(0)) || !leMesAno(QStringLiteral("mês"), args.at(1)))
+        return kArgumentoInvalido;
     Connection con;
     con.ConnectionTimeout = 100;
     con.Open(conexaoDoArquivo(args.at(0)));

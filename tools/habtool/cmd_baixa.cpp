@@ -33,6 +33,16 @@ static int cmdBaixa(const QStringList &argumentos)
     const bool sim = tiraSim(args);
     if (args.size() != 4)
         return 2;
+    int numeroLido = 0, codigo = 0;
+    QDate data;
+    const bool desfaz = args[2] == QLatin1String("--desfaz");
+    // The empty date goes to the routine, which says what it lacks.
+    const bool dataVazia = args[2].isEmpty() || args[2] == kEmptyDate;
+    if (!bancoPresente(args[0]) || !leInteiro(QStringLiteral("NUMERO"), args[1], 0, 999999, numeroLido) ||
+        (desfaz ? !leInteiro(QStringLiteral("CODIGO"), args[3], 0, 999, codigo)
+                : (!(dataVazia || leData(QStringLiteral("data"), args[2], data)) ||
+                   !leUsuario(QStringLiteral("USUARIO"), args[3]))))
+        return kArgumentoInvalido;
     ArquivoCondominio arq(args[0], sim);
     const QString numero = ZeroEsq(args[1], 6);
     ReciboEditado r;
@@ -41,10 +51,11 @@ static int cmdBaixa(const QStringList &argumentos)
                QStringLiteral("Atenção..."));
         return 1;
     }
-    if (args[2] == QLatin1String("--desfaz")) {
-        const int codigo = int(val(args[3]));
+    if (desfaz) {
         session.codUsuario = int16_t(codigo);
         session.usuario = nomeDoUsuario(codigo);
+        if (!leUsuario(QStringLiteral("nome do usuário %1").arg(codigo), session.usuario))
+            return 1;
         r.drecbto = kEmptyDate;
         const Alteracao a = alteraRecibo(arq.con, r, session.usuario, codigo);
         mostraErros(a.erros);

@@ -10,12 +10,14 @@ namespace {
 
 int cmdBalancete(const QStringList &args)
 {
-    const auto mes = [](const QString &t) { return int(val(t)); };
-    if (args.size() < 3 || args.size() > 4 || mes(args.at(2)) < 1 || mes(args.at(2)) > 12 ||
-        (args.size() == 4 && (mes(args.at(3)) < mes(args.at(2)) || mes(args.at(3)) > 12))) {
+    if (args.size() < 3 || args.size() > 4) {
         err(QStringLiteral("uso: habtool balancete ARQUIVO ANO MESINI [MESFIN]   (meses de 1 a 12, MESFIN >= MESINI)"));
         return 2;
     }
+    int ini = 0, fim = 12;
+    if (!leAno(QStringLiteral("ANO"), args.at(1)) || !leMes(QStringLiteral("MESINI"), args.at(2), ini) ||
+        (args.size() == 4 && !leInteiro(QStringLiteral("MESFIN"), args.at(3), ini, 12, fim)) || !bancoPresente(args.at(0)))
+        return kArgumentoInvalido;
     Connection con;
     con.ConnectionTimeout = 100;
     con.Open(conexaoDoArquivo(args.at(0)));

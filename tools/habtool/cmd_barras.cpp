@@ -21,8 +21,11 @@ int cmdBarras(const QStringList &args)
         a.posicionais.size() != 1)
         return uso();
     QDate data;
-    if (!leDataGeracao(a, data) || !arquivoPresente(a.posicionais[0]))
-        return 2;
+    int recibo = 0;
+    if (!leDataGeracao(a, data) || !bancoPresente(a.posicionais[0]) ||
+        (a.valores.contains(QStringLiteral("--recibo")) &&
+         !leInteiro(QStringLiteral("--recibo"), a.valores[QStringLiteral("--recibo")], 0, 999999, recibo)))
+        return kArgumentoInvalido;
     Connection con;
     con.Open(conexaoDoArquivo(a.posicionais[0]));
 

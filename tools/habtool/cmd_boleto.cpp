@@ -26,16 +26,13 @@ int cmdBoleto(const QStringList &args)
         }
         v[key] = arg.mid(eq + 1);
     }
-    if (!v[QStringLiteral("dvencto")].isEmpty() && !isDateText(v[QStringLiteral("dvencto")])) {
-        err(QStringLiteral("data inválida: ") + v[QStringLiteral("dvencto")]);
-        return 2;
-    }
-
     const QString banco = args[0];
     ReciboBanco r;
     r.codigo = v[QStringLiteral("codigo")];
-    r.vtotal = Money::fromDouble(val(VirgulaPonto(v[QStringLiteral("vtotal")])));
-    r.dvencto = dateFromText(v[QStringLiteral("dvencto")]);
+    // A key left out is empty: no value, no due date.
+    if ((!v[QStringLiteral("vtotal")].isEmpty() && !leValor(QStringLiteral("vtotal"), v[QStringLiteral("vtotal")], r.vtotal)) ||
+        (!v[QStringLiteral("dvencto")].isEmpty() && !leData(QStringLiteral("dvencto"), v[QStringLiteral("dvencto")], r.dvencto)))
+        return kArgumentoInvalido;
     ParametrosBanco p;
     p.banco = banco;
     p.agencia = v[QStringLiteral("agencia")];

@@ -11,11 +11,14 @@ namespace {
 
 int cmdDemonstrativo(const QStringList &args)
 {
-    if (args.size() != 4 || (args.at(1) != QStringLiteral("1") && args.at(1) != QStringLiteral("2")) ||
-        val(args.at(2)) < 1 || val(args.at(2)) > 12) {
+    if (args.size() != 4) {
         err(QStringLiteral("uso: habtool demonstrativo ARQUIVO MODELO MES ANO   (modelo 1 ou 2, mês de 1 a 12)"));
         return 2;
     }
+    int modelo = 0, mes = 0;
+    if (!leInteiro(QStringLiteral("MODELO"), args.at(1), 1, 2, modelo) || !leMes(QStringLiteral("MES"), args.at(2), mes) ||
+        !leAno(QStringLiteral("ANO"), args.at(3)) || !bancoPresente(args.at(0)))
+        return kArgumentoInvalido;
     session.conAtiva = conexaoDoArquivo(args.at(0));
     Monta_Balancete(args.at(2), args.at(3));
 

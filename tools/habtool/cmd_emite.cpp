@@ -9,6 +9,8 @@ static int cmdEmite(const QStringList &argumentos)
     const bool sim = tiraSim(args);
     if (args.size() != 1)
         return 2;
+    if (!bancoPresente(args[0]))
+        return kArgumentoInvalido;
     ArquivoCondominio arq(args[0], sim);
     const ParametrosEmissao p = leParametros(arq.con);
     // The check that saving the parameters makes: after an interrupted run

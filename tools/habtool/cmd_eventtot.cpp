@@ -9,6 +9,8 @@ static int cmdEventtot(const QStringList &argumentos)
     const bool sim = tiraSim(args);
     if (args.size() != 2)
         return 2;
+    if (!bancoPresente(args[0]))
+        return kArgumentoInvalido;
     ArquivoCondominio arq(args[0], sim);
     encheEventtot(arq.con, args[1]);
     Recordset rs = arq.con.Execute(QStringLiteral("SELECT codigo,nome,tipo,valortot FROM Eventtot ORDER BY codigo"));

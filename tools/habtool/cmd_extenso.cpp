@@ -12,18 +12,16 @@ int cmdExtenso(const QStringList &args)
         return 2;
     }
     int w1 = 37, w2 = 77;
-    if (args.size() == 3) {
-        bool ok1 = false, ok2 = false;
-        w1 = args[1].toInt(&ok1);
-        w2 = args[2].toInt(&ok2);
-        if (!ok1 || !ok2 || w1 < 1 || w2 < 1) {
-            err(QStringLiteral("larguras inválidas: %1 %2").arg(args[1], args[2]));
-            return 2;
-        }
+    if (args.size() == 3 && (!leInteiro(QStringLiteral("LARGURA1"), args[1], 1, 1000, w1) ||
+                             !leInteiro(QStringLiteral("LARGURA2"), args[2], 1, 1000, w2)))
+        return kArgumentoInvalido;
+    if (!valorBemFormado(args[0])) {
+        err(QStringLiteral("VALOR inválido: \"%1\" (um valor como 1234,56)").arg(args[0]));
+        return kArgumentoInvalido;
     }
     // A value that does not fit fails here or in the layout (RunFailure),
     // which the console reports on standard error with status 1.
-    out(Extenso(args[0]));
+    out(Extenso(QString(args[0]).replace(u'.', u',')));
     QuebraExtenso(w1, w2);
     out(session.linhaExt1);
     out(session.linhaExt2);

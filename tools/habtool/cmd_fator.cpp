@@ -11,11 +11,10 @@ int cmdFator(const QStringList &args)
         err(QStringLiteral("uso: habtool fator dd/mm/aaaa"));
         return 2;
     }
-    if (!isDateText(args[0])) {
-        err(QStringLiteral("data inválida: ") + args[0]);
-        return 2;
-    }
-    out(QString::number(Fator_Vencimento(dateFromText(args[0]))));
+    QDate vencimento;
+    if (!leData(QStringLiteral("vencimento"), args[0], vencimento))
+        return kArgumentoInvalido;
+    out(QString::number(Fator_Vencimento(vencimento)));
     return 0;
 }
 

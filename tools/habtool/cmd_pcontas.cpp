@@ -12,10 +12,14 @@ int cmdPcontas(const QStringList &args)
 {
     QStringList resto = args;
     const bool caixa = resto.removeAll(QStringLiteral("--caixa")) > 0;
-    if (resto.size() != 3 || val(resto.at(2)) < 1 || val(resto.at(2)) > 12) {
+    if (resto.size() != 3) {
         err(QStringLiteral("uso: habtool pcontas ARQUIVO ANO MES [--caixa]   (mês de 1 a 12)"));
         return 2;
     }
+    int mes = 0;
+    if (!leAno(QStringLiteral("ANO"), resto.at(1)) || !leMes(QStringLiteral("MES"), resto.at(2), mes) ||
+        !bancoPresente(resto.at(0)))
+        return kArgumentoInvalido;
     Connection con;
     con.ConnectionTimeout = 100;
     con.Open(conexaoDoArquivo(resto.at(0)));

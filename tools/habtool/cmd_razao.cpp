@@ -13,12 +13,14 @@ int cmdRazao(const QStringList &args)
     QStringList meses, contas;
     for (const QString &a : args.mid(2))
         (a.contains(QLatin1Char('.')) ? contas : meses).append(a);
-    const auto mes = [](const QString &t) { return int(val(t)); };
-    if (args.size() < 3 || meses.isEmpty() || meses.size() > 2 || contas.size() > 2 || mes(meses.at(0)) < 1 ||
-        mes(meses.at(0)) > 12 || (meses.size() == 2 && (mes(meses.at(1)) < mes(meses.at(0)) || mes(meses.at(1)) > 12))) {
+    if (args.size() < 3 || meses.isEmpty() || meses.size() > 2 || contas.size() > 2) {
         err(QStringLiteral("uso: habtool razao ARQUIVO ANO MESINI [MESFIN] [CTAINI CTAFIM]"));
         return 2;
     }
+    int ini = 0, fim = 12;
+    if (!leAno(QStringLiteral("ANO"), args.at(1)) || !leMes(QStringLiteral("MESINI"), meses.at(0), ini) ||
+        (meses.size() == 2 && !leInteiro(QStringLiteral("MESFIN"), meses.at(1), ini, 12, fim)) || !bancoPresente(args.at(0)))
+        return kArgumentoInvalido;
     RazaoPeriodo periodo;
     periodo.ano = args.at(1);
     periodo.mesIni = meses.at(0);

@@ -9,6 +9,8 @@ static int cmdRecalc(const QStringList &argumentos)
     const bool sim = tiraSim(args);
     if (args.size() != 1)
         return 2;
+    if (!bancoPresente(args[0]))
+        return kArgumentoInvalido;
     ArquivoCondominio arq(args[0], sim);
     out(QStringLiteral("recibos %1").arg(recalculaTotais(arq.con)));
     return 0;

@@ -27,8 +27,8 @@ int cmdRemessa(const QStringList &args)
         a.posicionais.size() != 2)
         return uso();
     QDate data;
-    if (!leDataGeracao(a, data) || !arquivoPresente(a.posicionais[0]))
-        return 2;
+    if (!leDataGeracao(a, data) || !bancoPresente(a.posicionais[0]))
+        return kArgumentoInvalido;
     Connection con;
     con.Open(conexaoDoArquivo(a.posicionais[0]));
 

@@ -64,6 +64,8 @@ int cmdReport(const QStringList &args)
                            ? inProgramDir
                            : inProgramDir + QStringLiteral(".rpt");
     }
+    if (!arquivoPresente(templatePath) || !arquivoPresente(args[1]))
+        return kArgumentoInvalido;
     ReportData data;
     QString error;
     if (!readTable(args[1], data, error)) {

@@ -58,6 +58,8 @@ int cmdSql(const QStringList &args)
         err(QStringLiteral("uso: habtool sql ARQUIVO < instruções"));
         return 2;
     }
+    if (!bancoPresente(args[0]))
+        return kArgumentoInvalido;
     Connection con;
     con.Open(kConnectionPrefix + args[0] + QStringLiteral(";Jet OLEDB:Database Password=;"));
     QTextStream in(stdin);
@@ -86,6 +88,11 @@ int cmdSql(const QStringList &args)
             }
         } catch (const DatabaseError &e) {
             out(QStringLiteral("ERROR ") + e.message());
+            failed = true;
+        } catch (const std::exception &e) {
+            // A value read back that the program cannot hold (money beyond
+            // the currency's range) fails this statement only.
+            out(QStringLiteral("ERROR ") + QString::fromUtf8(e.what()));
             failed = true;
         }
         std::fflush(stdout);
