@@ -13,15 +13,41 @@
 void registerAllForms()
 {
     registerCoreForms();
-    registerForm<frmBlocos>(QStringLiteral("frmBlocos"), FormKind::Child);
-    registerForm<frmTTipAp>(QStringLiteral("frmTTipAp"), FormKind::Child);
-    registerForm<frmUsuarios>(QStringLiteral("frmUsuarios"), FormKind::Child);
-    registerForm<frmUsucli>(QStringLiteral("frmUsucli"), FormKind::Child);
-    registerForm<frmCpj>(QStringLiteral("frmCpj"), FormKind::Child);
-    registerForm<frmPesquisa>(QStringLiteral("frmPesquisa"), FormKind::Dialog);
-    registerForm<frmPesqGeral>(QStringLiteral("frmPesqGeral"), FormKind::Dialog);
-    registerForm<frmPesqap>(QStringLiteral("frmPesqap"), FormKind::Dialog);
+    registerForm<frmBlocos>(FormKind::Child);
+    registerForm<frmTTipAp>(FormKind::Child);
+    registerForm<frmUsuarios>(FormKind::Child);
+    registerForm<frmUsucli>(FormKind::Child);
+    registerForm<frmCpj>(FormKind::Child);
+    registerForm<frmPesquisa>(FormKind::Dialog);
+    registerForm<frmPesqGeral>(FormKind::Dialog);
+    registerForm<frmPesqap>(FormKind::Dialog);
     // Registers, billing, banks, accounting, reporting and maintenance add
-    // their forms below, one line each:
-    //   registerForm<frmBlocos>(QStringLiteral("frmBlocos"), FormKind::Child);
+    // their forms below, one line each, and take them off formsToCome:
+    //   registerForm<frmAptos>(FormKind::Child);
+}
+
+QStringList formsToCome()
+{
+    return {
+        // Registers
+        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
+        QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
+        // Accounting
+        QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
+        QStringLiteral("frmMovSaldini"), QStringLiteral("frmMov_BalctP"), QStringLiteral("frmTContas"),
+        QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
+        QStringLiteral("frmRLanctos"),
+        // Billing
+        QStringLiteral("frmPesqfin"), QStringLiteral("frmAjTxVcto"), QStringLiteral("frmRecBaixa"),
+        QStringLiteral("frmParametro"), QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
+        QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
+        QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
+        // Banks
+        QStringLiteral("frmBcoDiversos"), QStringLiteral("frmBoleto"), QStringLiteral("frmCriaTxt"),
+        // Reporting
+        QStringLiteral("frmRelEnd"), QStringLiteral("frmRAptos"), QStringLiteral("frmRTelefonica"),
+        QStringLiteral("frmRelatArq"), QStringLiteral("frmNormal"), QStringLiteral("frmPadrao"),
+        // Maintenance
+        QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
+    };
 }

@@ -1,7 +1,5 @@
 #include "core/conversions.h"
 
-#include "core/prompter.h"
-
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -239,60 +237,6 @@ QString applyNumberPicture(Decimal d, const QString &pictureText)
     return (d.negative ? QStringLiteral("-") : QString()) + prefix + number + suffix;
 }
 
-// ---- Windows-1252, the system's character codes ------------------------------
-constexpr std::array<char16_t, 32> kCp1252High = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
-
-int ansiCode(QChar c)
-{
-    const char16_t u = c.unicode();
-    if (u < 0x80 || (u >= 0xA0 && u <= 0xFF))
-        return u;
-    for (int i = 0; i < 32; ++i)
-        if (kCp1252High[size_t(i)] == u)
-            return 0x80 + i;
-    return '?';  // not in the code page: the runtime gives a question mark
-}
-
-QChar ansiChar(int code)
-{
-    if (code < 0 || code > 255)
-        throw RunFailure(kInvalidArgument);
-    if (code >= 0x80 && code < 0xA0)
-        return QChar(kCp1252High[size_t(code - 0x80)]);
-    return QChar(char16_t(code));
-}
-
-// Tax-number check: modulus 11 with weights from the right, 2 up to maxWeight
-// and back to 2. Shows `message` when the digits do not agree.
-bool validaModulo11(const QString &text, int length, int maxWeight, const QString &message)
-{
-    const QString trimmed = trimBlanks(text);
-    if (trimmed.size() != length)
-        return false;
-    QString base = trimmed.left(length - 2);
-    for (int round = 0; round < 2; ++round) {
-        int soma = 0;
-        int weight = 2;
-        for (qsizetype i = base.size() - 1; i >= 0; --i) {
-            const QChar c = base.at(i);
-            soma += weight * (c.isDigit() ? c.digitValue() : 0);
-            weight = weight == maxWeight ? 2 : weight + 1;
-        }
-        int dv = (soma / 11 + 1) * 11 - soma;
-        if (dv >= 10)
-            dv = 0;
-        base += QChar(u'0' + dv);
-    }
-    if (base == text)
-        return true;
-    MsgBox(message, vbCritical, QStringLiteral("Erro"));
-    return false;
-}
-
 QString keepDigits(QString &text, bool withMinus)
 {
     text = trimBlanks(text);
@@ -310,23 +254,6 @@ QString keepDigits(QString &text, bool withMinus)
         }
     }
     return result;
-}
-
-QString scramble(const QString &text, int parity, int offset)
-{
-    int16_t soma = 0;
-    QString saida;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const int p = int(i) + 1;
-        const int c = ansiCode(text.at(i)) - offset;
-        const int sum = int(soma) + c;
-        if (sum > 32767 || sum < -32768)
-            throw RunFailure(QStringLiteral("Estouro de capacidade"));
-        soma = int16_t(sum);
-        if (p % 2 == parity)
-            saida += ansiChar(p + c);
-    }
-    return strText(double(soma) * double(soma) / 2.0) + saida;
 }
 
 const char *const kMonthNames[12] = {"janeiro", "fevereiro", "março", "abril",   "maio",     "junho",
@@ -434,16 +361,6 @@ QString SemAcento(const QString &text)
     }
     return result;
 }
-
-bool ValidaCPF(const QString &text) { return validaModulo11(text, 11, 11, QStringLiteral("CPF Inválido !")); }
-
-bool ValidaCGC(const QString &text) { return validaModulo11(text, 14, 9, QStringLiteral("CGC Inválido !")); }
-
-// ---- Scrambling -----------------------------------------------------------------------
-
-QString EmbaralhaAdm(const QString &text) { return scramble(text, 0, 0); }
-
-QString EmbaralhaSenha(const QString &text) { return scramble(text, 1, 5); }
 
 // ---- Number to text ---------------------------------------------------------------------
 
@@ -600,5 +517,3 @@ QString bareText(const QString &masked)
             result += c;
     return result;
 }
-
-bool NomeUsuarioValido(const QString &nome) { return !nome.contains(u'\''); }

@@ -3,24 +3,17 @@
 // form and routine pads, rounds, formats and counts days through these; none
 // writes its own. All Brazilian forms use the decimal comma and the point as
 // thousands separator; none of this depends on the C locale.
+#include "core/errors.h"
 #include "core/money.h"
 #include "core/val.h"
 
 #include <QDate>
 #include <QString>
-#include <stdexcept>
 
-// A failure of the run that the original raised as a runtime error (for
-// example ZeroEsq of a text longer than its width). Callers let it through,
-// or stop the run with its message; it is never mistaken for a result.
-class RunFailure : public std::runtime_error {
-public:
-    explicit RunFailure(const QString &message) : std::runtime_error(message.toStdString()), message_(message) {}
-    QString message() const { return message_; }
-
-private:
-    QString message_;
-};
+// The register forms still reach the validators and the scrambling through
+// this header; once they include their own, these two lines go.
+#include "core/scramble.h"
+#include "core/validators.h"
 
 // ---- Field helpers of the system ------------------------------------------
 QString trimBlanks(const QString &text);                  // trims as the system trims: blanks only, not tabs
@@ -35,18 +28,6 @@ QString SoNumeroSinal(QString &text);                     // the same, and every
 QString UltimoDia(const QDate &date);                     // "28".."31", February by year % 4 only
 QString NomeMes(int month);                               // 1..11 by name, anything else "Dezembro"
 QString SemAcento(const QString &text);                   // accents off, apostrophe to blank
-bool ValidaCPF(const QString &text);                      // messages through the prompter
-bool ValidaCGC(const QString &text);
-bool ValidaUF(const QString &uf);                         // reads Estados on session.conSistema
-// A user's name goes into statements between apostrophes (the rights tests,
-// the settlement's stamp): a name holding one is refused where users are
-// registered, with kNomeUsuarioInvalido.
-bool NomeUsuarioValido(const QString &nome);
-inline const QString kNomeUsuarioInvalido = QStringLiteral("O nome do usuário não pode conter apóstrofo (') !");
-
-// ---- Scrambling of passwords -----------------------------------------------
-QString EmbaralhaAdm(const QString &text);                // parity even, offset 0
-QString EmbaralhaSenha(const QString &text);              // parity odd, offset 5
 
 // ---- Number to text ----------------------------------------------------------
 // Plain conversion to text in the Brazilian locale: no thousands separator, no

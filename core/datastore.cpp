@@ -22,12 +22,6 @@
 
 // ---- Errors ------------------------------------------------------------------
 
-DatabaseError::DatabaseError(const QString &message, const QString &statement)
-    : std::runtime_error((statement.isEmpty() ? message : message + QStringLiteral(" [") + statement + u']').toStdString()),
-      message_(message), statement_(statement)
-{
-}
-
 namespace {
 
 const QString kNoCurrentRecord = QStringLiteral(

@@ -10,6 +10,7 @@
 //   while (!rs.eof()) { QString nome = rs["nome"].text(); rs.moveNext(); }
 //   long n = 0; con.Execute("DELETE FROM Eventtot", &n);
 //   Recordset ks; ks.Open("SELECT * FROM Grupos", con, 1, 2);  // keyset: recordCount, moveFirst
+#include "core/errors.h"
 #include "core/money.h"
 
 #include <QDate>
@@ -23,19 +24,6 @@
 
 // Kind of a column as the schema catalog knows it.
 enum class ColumnKind { Text, Number, Money, Date, Boolean, Counter };
-
-// A failing Open or statement. Forms do not catch it: the application's top
-// level shows it in an "Erro Fatal" box and ends.
-class DatabaseError : public std::runtime_error {
-public:
-    DatabaseError(const QString &message, const QString &statement);
-    QString message() const { return message_; }
-    QString statement() const { return statement_; }
-
-private:
-    QString message_;
-    QString statement_;
-};
 
 // One value of the current row. Null is distinct from the empty text.
 class Field {

@@ -1,6 +1,7 @@
-// ValidaUF lives apart from the other conversions: it is the only one that
-// reads the database, and the pure routines link without the data store.
-#include "core/conversions.h"
+// ValidaUF lives apart from the other validators: it is the only one that
+// reads the database.
+#include "core/validators.h"
+
 #include "core/datastore.h"
 #include "core/session.h"
 

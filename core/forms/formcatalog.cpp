@@ -19,6 +19,11 @@ QList<FormEntry> &catalog()
 
 void registerForm(const QString &name, FormKind kind, std::function<QWidget *()> make)
 {
+    make = [name, make = std::move(make)] {
+        QWidget *form = make();
+        form->setObjectName(name);
+        return form;
+    };
     for (FormEntry &e : catalog()) {
         if (e.name == name) {
             e.kind = kind;
@@ -41,12 +46,12 @@ QList<FormEntry> allForms() { return catalog(); }
 
 void registerCoreForms()
 {
-    registerForm<frmSobre>(QStringLiteral("frmSobre"), FormKind::Child);
-    registerForm<frmSplash>(QStringLiteral("frmSplash"), FormKind::Window);
-    registerForm<frmSenha>(QStringLiteral("frmSenha"), FormKind::Dialog);
-    registerForm<frmAtempr>(QStringLiteral("frmAtempr"), FormKind::Dialog);
-    registerForm<frmAtImpr>(QStringLiteral("frmAtImpr"), FormKind::Dialog);
-    registerForm<frmTrocasen>(QStringLiteral("frmTrocasen"), FormKind::Dialog);
-    registerForm<frmErros>(QStringLiteral("frmErros"), FormKind::Dialog);
-    registerForm<frmInstalacao>(QStringLiteral("frmInstalacao"), FormKind::Dialog);
+    registerForm<frmSobre>(FormKind::Child);
+    registerForm<frmSplash>(FormKind::Window);
+    registerForm<frmSenha>(FormKind::Dialog);
+    registerForm<frmAtempr>(FormKind::Dialog);
+    registerForm<frmAtImpr>(FormKind::Dialog);
+    registerForm<frmTrocasen>(FormKind::Dialog);
+    registerForm<frmErros>(FormKind::Dialog);
+    registerForm<frmInstalacao>(FormKind::Dialog);
 }

@@ -1,7 +1,9 @@
 #pragma once
-// The forms the menu can open, by the system's form name. Each subsystem's
-// forms are added to the catalog in one place (app/formcatalog.cpp); a name
-// that is not in it yet makes the menu say that the function is not available.
+// The forms the menu can open, by the system's form name. The catalog is the
+// one place that names a form: an entry's name is its class's name, and the
+// catalog gives it to every form it makes as the object name. Each
+// subsystem's forms are added in one place (app/formcatalog.cpp); a name that
+// is not in it yet makes the menu say that the function is not available.
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -19,7 +21,7 @@ struct FormEntry {
     std::function<QWidget *()> make;
 };
 
-// Adds or replaces the entry of a name.
+// Adds or replaces the entry of a name. The form made is named `name`.
 void registerForm(const QString &name, FormKind kind, std::function<QWidget *()> make);
 // nullptr when the form is not built yet.
 const FormEntry *findForm(const QString &name);
@@ -28,8 +30,11 @@ QList<FormEntry> allForms();
 // Adds the forms of core/forms (login, activation, about, errors...).
 void registerCoreForms();
 
+// Adds a form class under its own name: registerForm<frmBlocos>(FormKind::Child).
 template <class Form>
-void registerForm(const QString &name, FormKind kind)
+void registerForm(FormKind kind)
 {
-    registerForm(name, kind, [] { return static_cast<QWidget *>(new Form); });
+    static_assert(QtPrivate::HasQ_OBJECT_Macro<Form>::Value, "a form class carries Q_OBJECT: its name is the form's");
+    registerForm(QString::fromLatin1(Form::staticMetaObject.className()), kind,
+                 [] { return static_cast<QWidget *>(new Form); });
 }

@@ -3,6 +3,7 @@
 #include "core/conversions.h"
 #include "core/installation.h"
 #include "core/prompter.h"
+#include "core/scramble.h"
 #include "core/session.h"
 #include "core/widgets/keyboard.h"
 

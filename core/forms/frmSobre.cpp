@@ -12,7 +12,6 @@
 
 frmSobre::frmSobre(QWidget *parent) : QWidget(parent)
 {
-    setObjectName(QStringLiteral("frmSobre"));
     setWindowTitle(QStringLiteral("Sobre o Habitarium"));
 
     auto *lblTitle = new QLabel(QStringLiteral("Habitarium"), this);

@@ -8,7 +8,6 @@
 
 frmSplash::frmSplash(QWidget *parent) : QWidget(parent, Qt::FramelessWindowHint)
 {
-    setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QStringLiteral("Habitarium"));
     setAttribute(Qt::WA_DeleteOnClose);
 

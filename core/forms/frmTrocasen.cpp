@@ -2,6 +2,7 @@
 
 #include "core/conversions.h"
 #include "core/prompter.h"
+#include "core/scramble.h"
 #include "core/session.h"
 #include "core/widgets/keyboard.h"
 #include "core/widgets/modal.h"

@@ -15,12 +15,17 @@
 #include "core/widgets/keyboard.h"
 #include "core/widgets/modal.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPointer>
 #include <QToolBar>
 #include <memory>
 
@@ -178,6 +183,52 @@ mdiHabitarium::mdiHabitarium(QWidget *parent) : QMainWindow(parent)
     montaMenu();
     montaBarra();
     resize(1024, 720);
+    qApp->installEventFilter(this);
+}
+
+// The control of the active form whose access key (the letter after '&' in
+// its caption, or in the caption of its label) is this Alt+key: a button, or
+// the field a label names. nullptr when the form has none, or no form of this
+// window is active.
+QWidget *mdiHabitarium::alvoDaTecla(const QKeyEvent &key) const
+{
+    if (key.modifiers() != Qt::AltModifier || key.key() < Qt::Key_0 || key.key() > Qt::Key_Z
+        || QApplication::activeWindow() != this || QApplication::activePopupWidget())
+        return nullptr;
+    const QMdiSubWindow *sub = area_->activeSubWindow();
+    QWidget *form = sub ? sub->widget() : nullptr;
+    if (!form)
+        return nullptr;
+    const QKeySequence tecla(QKeyCombination(Qt::AltModifier, Qt::Key(key.key())));
+    const auto pronto = [](const QWidget *w) { return w && w->isVisible() && w->isEnabled(); };
+    for (QAbstractButton *b : form->findChildren<QAbstractButton *>())
+        if (pronto(b) && QKeySequence::mnemonic(b->text()) == tecla)
+            return b;
+    for (QLabel *l : form->findChildren<QLabel *>())
+        if (pronto(l) && pronto(l->buddy()) && QKeySequence::mnemonic(l->text()) == tecla)
+            return l->buddy();
+    return nullptr;
+}
+
+bool mdiHabitarium::eventFilter(QObject *watched, QEvent *event)
+{
+    // The form's key is claimed before the menu bar's shortcut is looked for,
+    // then acted on as a click: the field left first (its lost focus runs),
+    // then the button pressed.
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(watched, event);
+    auto *key = static_cast<QKeyEvent *>(event);
+    QWidget *alvo = alvoDaTecla(*key);
+    if (!alvo)
+        return QMainWindow::eventFilter(watched, event);
+    key->accept();
+    if (event->type() == QEvent::KeyPress) {
+        QPointer<QWidget> guarda(alvo);
+        alvo->setFocus(Qt::ShortcutFocusReason);
+        if (auto *b = qobject_cast<QAbstractButton *>(guarda.data()); b && b->isEnabled() && b->isVisible())
+            b->click();
+    }
+    return true;
 }
 
 void mdiHabitarium::montaMenu()
@@ -204,6 +255,10 @@ void mdiHabitarium::montaMenu()
         default: {
             QAction *a = pai->addAction(titulo);
             a->setObjectName(nome);
+            // What the entry does, for the check that each one reaches the catalog.
+            if (item.form)
+                a->setProperty("form", QString::fromLatin1(item.form));
+            a->setProperty("morta", item.acao == Acao::Morta);
             if (item.acao != Acao::Morta)
                 connect(a, &QAction::triggered, this, [this, &item] { executa(item); });
             break;
@@ -222,13 +277,16 @@ void mdiHabitarium::montaBarra()
         const BotaoBarra &b = kBarra[n - 1];
         QAction *a = tobPrincipal_->addAction(iconeBarra(n), QString::fromUtf8(b.dica));
         a->setObjectName(QStringLiteral("tob%1").arg(n, 2, 10, QLatin1Char('0')));
+        a->setProperty("morta", !b.menu && n != 14);
         if (b.menu) {
             const QString menu = QString::fromLatin1(b.menu);
+            a->setProperty("menu", menu);
             connect(a, &QAction::triggered, this, [this, menu] {
                 if (QAction *entry = acao(menu))
                     entry->trigger();
             });
         } else if (n == 14) {
+            a->setProperty("form", QStringLiteral("frmAtImpr"));
             connect(a, &QAction::triggered, this, [this] { abreForm(QStringLiteral("frmAtImpr")); });
         }
         if (n == 1 || n == 8 || n == 11 || n == 12)

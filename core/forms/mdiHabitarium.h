@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 class QAction;
+class QKeyEvent;
 class QMdiArea;
 class QMenu;
 class QToolBar;
@@ -39,12 +40,15 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    // While a form is active its own access keys win over the menu bar's.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void montaMenu();
     void montaBarra();
     void executa(const ItemMenu &item);
     void montaJanelas();
+    QWidget *alvoDaTecla(const QKeyEvent &key) const;
 
     QMdiArea *area_;
     QMenu *mnuJanelas_ = nullptr;

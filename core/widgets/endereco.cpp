@@ -2,6 +2,7 @@
 
 #include "core/conversions.h"
 #include "core/prompter.h"
+#include "core/validators.h"
 #include "core/widgets/keyboard.h"
 #include "core/widgets/maskedit.h"
 

@@ -3,6 +3,7 @@
 #include "core/conversions.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QRegularExpressionValidator>
 
 NumberField::NumberField(QWidget *parent, const QString &picture) : QLineEdit(parent)
@@ -44,4 +45,29 @@ void NumberField::focusOutEvent(QFocusEvent *event)
     QLineEdit::focusOutEvent(event);
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
         setValor(valor());
+}
+
+void NumberField::keyPressEvent(QKeyEvent *event)
+{
+    const bool keypad = event->modifiers() & Qt::KeypadModifier;
+    const bool decimalKey = (keypad && (event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma))
+                            || (event->key() == Qt::Key_Period && event->text() == QStringLiteral("."));
+    if (!decimalKey || isReadOnly()) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    // The text that stays after the key: the selection is typed over.
+    QString rest = text();
+    if (hasSelectedText())
+        rest.remove(selectionStart(), selectedText().size());
+    if (!keypad && rest.contains(u',')) {
+        // With a comma there a point could only be a thousands point typed by
+        // hand, which the picture puts in by itself on leaving: refused.
+        event->accept();
+        return;
+    }
+    QKeyEvent comma(QEvent::KeyPress, Qt::Key_Comma, event->modifiers() & ~Qt::KeypadModifier, QStringLiteral(","),
+                    event->isAutoRepeat(), ushort(event->count()));
+    QLineEdit::keyPressEvent(&comma);
+    event->setAccepted(comma.isAccepted());
 }

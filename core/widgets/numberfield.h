@@ -1,7 +1,9 @@
 #pragma once
 // A number field with one of the system's pictures ("#,##0.00", "##0.0000"):
 // it takes digits, one decimal comma and a leading minus, and shows its value
-// through the picture when the user leaves it.
+// through the picture when the user leaves it. The keypad's decimal key types
+// the comma, and so does a point typed while there is no comma yet: "1.5" is
+// one and a half.
 #include <QLineEdit>
 
 class NumberField : public QLineEdit {
@@ -19,6 +21,7 @@ public:
 
 protected:
     void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QString picture_;

@@ -203,16 +203,21 @@ frmRelatorio *showReport(QMdiArea *area, std::shared_ptr<const ReportDocument> d
             form = f;
             break;
         }
-    if (!form) {
+    QMdiSubWindow *sub = nullptr;
+    if (form) {
+        sub = qobject_cast<QMdiSubWindow *>(form->parentWidget());
+    } else {
         form = new frmRelatorio;
-        QMdiSubWindow *sub = area->addSubWindow(form);
+        sub = area->addSubWindow(form);
         sub->setAttribute(Qt::WA_DeleteOnClose);
-        sub->resize(860, 640);
     }
     form->setDocument(std::move(doc));
-    form->parentWidget()->show();
-    form->show();
-    area->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(form->parentWidget()));
+    // Maximised within the work area, so that its frame and close box are in
+    // sight, and titled with the report's title rather than the form's.
+    sub->setWindowTitle(form->windowTitle());
+    sub->showMaximized();
+    area->setActiveSubWindow(sub);
+    sub->raise();
     return form;
 }
 

@@ -1,5 +1,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
+#include "core/scramble.h"
+#include "core/validators.h"
 #include "support/fixtures.h"
 #include "support/scriptedprompter.h"
 

@@ -40,9 +40,9 @@ RegistersDir::RegistersDir()
     session.cancelaGrava = false;
     session.valorPesq.clear();
     execSistema(QStringLiteral("INSERT INTO Clientes(codigo,nome,cidade,uf) VALUES(1,\"Residencial Teste\",\"Campinas\",'SP')"));
-    registerForm<frmPesquisa>(QStringLiteral("frmPesquisa"), FormKind::Dialog);
-    registerForm<frmPesqGeral>(QStringLiteral("frmPesqGeral"), FormKind::Dialog);
-    registerForm<frmPesqap>(QStringLiteral("frmPesqap"), FormKind::Dialog);
+    registerForm<frmPesquisa>(FormKind::Dialog);
+    registerForm<frmPesqGeral>(FormKind::Dialog);
+    registerForm<frmPesqap>(FormKind::Dialog);
 }
 
 void RegistersDir::execSistema(const QString &sql)

@@ -1,6 +1,7 @@
 // frmUsuarios: who may create, the rights dependency, the statements, the
 // password change and the print.
 #include "registerssupport.h"
+#include "core/scramble.h"
 #include "support/scriptedprompter.h"
 
 #include "core/conversions.h"

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
+#include <vector>
 
 TEST(WidgetKit, MaskedTextKeepsPromptsAndLiterals)
 {
@@ -90,6 +91,25 @@ TEST(WidgetKit, NumberFieldPictureAndStatementValue)
     QTest::keyClicks(&n, QStringLiteral("-1a2,5,7"));
     EXPECT_EQ(n.text(), QStringLiteral("-12,57"));
     EXPECT_DOUBLE_EQ(n.valor(), -12.57);
+    // The decimal key types the comma: a point typed before any comma, or the
+    // keypad's decimal key. With a comma there a point is refused.
+    struct Teclas {
+        std::vector<std::pair<Qt::Key, Qt::KeyboardModifiers>> keys;
+        const char *text;
+    };
+    const Qt::KeyboardModifiers kp = Qt::KeypadModifier, none = Qt::NoModifier;
+    for (const Teclas &t : {Teclas{{{Qt::Key_1, none}, {Qt::Key_Period, none}, {Qt::Key_5, none}}, "1,5"},
+                            Teclas{{{Qt::Key_2, kp}, {Qt::Key_Period, kp}, {Qt::Key_5, kp}}, "2,5"},
+                            Teclas{{{Qt::Key_3, kp}, {Qt::Key_Comma, kp}, {Qt::Key_5, kp}}, "3,5"},
+                            Teclas{{{Qt::Key_4, none}, {Qt::Key_Comma, none}, {Qt::Key_5, none}, {Qt::Key_Period, none}}, "4,5"}}) {
+        n.clear();
+        for (const auto &[key, modifiers] : t.keys)
+            QTest::keyClick(&n, key, modifiers);
+        EXPECT_EQ(n.text(), QString::fromLatin1(t.text));
+    }
+    n.clear();
+    QTest::keyClicks(&n, QStringLiteral("1.5"));
+    EXPECT_DOUBLE_EQ(n.valor(), 1.5);
 }
 
 TEST(WidgetKit, GridSortsAndSearchesInOrder)

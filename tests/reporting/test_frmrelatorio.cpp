@@ -5,10 +5,13 @@
 #include "reporting/imprime.h"
 
 #include <QFile>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -34,14 +37,34 @@ TEST(FrmRelatorio, ShowsInTheMdiAreaNavigatesZoomsAndASecondPrintReplacesTheFirs
     QMdiArea area;
     area.resize(900, 700);
     area.show();
+    area.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
     installReportViewer(&area);
+    auto *cadastro = new QLineEdit;
+    cadastro->setWindowTitle(QStringLiteral("Cadastro de Blocos"));
+    QMdiSubWindow *subCadastro = area.addSubWindow(cadastro);
+    subCadastro->show();
+    cadastro->setFocus();
 
+    // The preview opens maximised within the area, in front, with the report's title.
     auto first = listing(QStringLiteral("Relação de Blocos"), 100);   // 3 pages
     ASSERT_EQ(first->pageCount(), 3);
     frmRelatorio *form = showReport(&area, first);
     ASSERT_TRUE(form);
+    auto *sub = qobject_cast<QMdiSubWindow *>(form->parentWidget());
+    ASSERT_TRUE(sub);
     EXPECT_EQ(form->objectName(), QStringLiteral("frmRelatorio"));
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Relação de Blocos"));
+    EXPECT_EQ(sub->windowTitle(), QStringLiteral("Relação de Blocos"));
+    EXPECT_TRUE(sub->isMaximized());
+    EXPECT_TRUE(area.viewport()->rect().contains(sub->geometry()));
+    EXPECT_EQ(area.activeSubWindow(), sub);
+    // A click on its pages brings it back to the front.
+    area.setActiveSubWindow(subCadastro);
+    QWidget *pages = form->findChild<QGraphicsView *>()->viewport();
+    QTest::mouseClick(pages, Qt::LeftButton, {}, pages->rect().center());
+    EXPECT_EQ(area.activeSubWindow(), sub);
+    delete subCadastro;
     EXPECT_EQ(area.subWindowList().size(), 1);
     EXPECT_EQ(form->pageCount(), 3);
     EXPECT_EQ(form->currentPage(), 1);

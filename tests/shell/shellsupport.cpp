@@ -3,6 +3,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/installation.h"
+#include "core/scramble.h"
 #include "core/session.h"
 #include "core/widgets/modal.h"
 

@@ -6,9 +6,11 @@
 #include "core/installation.h"
 #include "core/session.h"
 #include "core/startup.h"
+#include "core/validators.h"
 #include "support/scriptedprompter.h"
 
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -89,6 +91,32 @@ TEST(Mkdemo, MakesACompleteValidDeterministicInstallation)
         EXPECT_TRUE(p.calls.empty());
     }
 
+    // Every key a form finds a record by is unique, so that saving or deleting
+    // one record never touches another. Pjuridica's two "(Nenhum)" rows of
+    // code 0 are the seed rows the system writes itself.
+    {
+        Connection sys;
+        sys.Open(session.conSistema);
+        const struct {
+            Connection *cn;
+            const char *table, *key;
+        } chaves[] = {{&sys, "Clientes", "codigo"},   {&sys, "Usuarios", "codigo"},    {&sys, "Usuarios", "nome"},
+                      {&cn, "Aptos", "codigo"},        {&cn, "Grupos", "codgrupo"},     {&cn, "TpAp", "codigo"},
+                      {&cn, "Pjuridica", "codigo"},    {&cn, "Mobra", "codigo"},        {&cn, "Moradores", "nome,codap"},
+                      {&cn, "Veiculos", "chapa"},      {&cn, "Tpveiculos", "codgrupo"}, {&cn, "Contas", "codigo"},
+                      {&cn, "Eventos", "codigo"},      {&cn, "Plano", "codigo"},        {&cn, "Parametros", "codigo"},
+                      {&cn, "Recibos", "codigo"}};
+        for (const auto &c : chaves) {
+            const QString key = QString::fromLatin1(c.key), table = QString::fromLatin1(c.table);
+            EXPECT_EQ(column(*c.cn, QStringLiteral("SELECT ") + key + QStringLiteral(",Count(*) As N FROM ") + table
+                                        + (table == QLatin1String("Pjuridica") ? QStringLiteral(" WHERE codigo > 0") : QString())
+                                        + QStringLiteral(" GROUP BY ") + key + QStringLiteral(" HAVING Count(*) > 1")),
+                      QString())
+                << c.table << "." << c.key;
+        }
+        sys.Close();
+    }
+
     // The login's seed rows, a receipt per active unit, everything dated in 2008.
     EXPECT_EQ(column(cn, QStringLiteral("SELECT nome,tipo FROM Pjuridica WHERE codigo = 0 ORDER BY tipo")),
               QStringLiteral("(Nenhum)|0|\n(Nenhum)|1|\n"));
@@ -112,4 +140,12 @@ TEST(Mkdemo, MakesACompleteValidDeterministicInstallation)
     cn.Open(connectionString(dir, QStringLiteral("Con001.mdb"), QString()));
     EXPECT_EQ(column(cn, QStringLiteral("SELECT codigo,nome,cpfpro,honor FROM Aptos ORDER BY codigo")), owners);
     cn.Close();
+
+    // The tour photographs the program on it at the size of an office screen.
+    QProcess tour;
+    tour.start(builtProgramDir() + QStringLiteral("tour"), {dir, tmp.path() + QStringLiteral("/fotos")});
+    ASSERT_TRUE(tour.waitForFinished(120000));
+    EXPECT_EQ(tour.exitCode(), 0) << tour.readAllStandardError().toStdString();
+    EXPECT_EQ(QImage(tmp.path() + QStringLiteral("/fotos/mdiHabitarium.png")).size(), QSize(1366, 768));
+    EXPECT_TRUE(QFile::exists(tmp.path() + QStringLiteral("/fotos/mdi_frmBlocos.png")));
 }

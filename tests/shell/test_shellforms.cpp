@@ -2,6 +2,7 @@
 // driven offscreen by control name with the scripted prompter.
 #include "shellsupport.h"
 
+#include "app/formcatalog.h"
 #include "core/anotaerro.h"
 #include "core/conversions.h"
 #include "core/datastore.h"
@@ -12,6 +13,7 @@
 #include "core/forms/frmTrocasen.h"
 #include "core/forms/mdiHabitarium.h"
 #include "core/installation.h"
+#include "core/scramble.h"
 #include "core/session.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/modal.h"
@@ -28,9 +30,12 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSet>
 #include <QTableWidget>
 #include <QTest>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 const QStringList kSoUsuario = {QStringLiteral("mnuApart"),    QStringLiteral("mnuBlocos"),  QStringLiteral("mnuMao"),
@@ -268,6 +273,81 @@ TEST(MainWindow, MenuRightsAreReadAtEachClick)
     for (const char *dead : {"mnuAreas", "mnuGerarC", "mnuInfracao", "mnuDiversos", "mnuPorc", "tob01", "tob08", "tob11"})
         mdi.acao(QString::fromLatin1(dead))->trigger();
     EXPECT_EQ(p.calls.size(), before);
+}
+
+// Every menu entry and toolbar button opens a form of the catalog, is dead by
+// design, or names a form still to come: a misspelt name is none of these.
+TEST(MainWindow, EveryEntryAndButtonReachesTheCatalog)
+{
+    registerAllForms();
+    mdiHabitarium mdi;
+    const QStringList toCome = formsToCome();
+    QStringList dead, own, opened;
+    for (QAction *a : mdi.findChildren<QAction *>()) {
+        const QString name = a->objectName();
+        if (a->isSeparator() || a->menu() || !(name.startsWith(QLatin1String("mnu")) || name.startsWith(QLatin1String("tob"))))
+            continue;
+        QString form = a->property("form").toString();
+        if (a->property("menu").isValid()) {
+            const QAction *entry = mdi.acao(a->property("menu").toString());
+            ASSERT_NE(entry, nullptr) << name.toStdString();
+            form = entry->property("form").toString();
+        }
+        if (a->property("morta").toBool())
+            dead << name;
+        else if (form.isEmpty())
+            own << name;
+        else
+            opened << form;
+        if (!form.isEmpty()) {
+            EXPECT_NE(findForm(form) != nullptr, toCome.contains(form))
+                << name.toStdString() << " opens " << form.toStdString() << ": registered xor still to come";
+        }
+    }
+    dead.sort();
+    own.sort();
+    EXPECT_EQ(dead, (QStringList{"mnuAreas", "mnuDiversos", "mnuGerarC", "mnuInfracao", "mnuPorc", "tob01", "tob08", "tob11"}));
+    EXPECT_EQ(own, (QStringList{"mnuAtemp", "mnuCascata", "mnuMusu", "mnuSair", "tob12", "tob13"}));
+    for (const QString &form : toCome)
+        EXPECT_TRUE(opened.contains(form)) << form.toStdString() << " is still to come but no entry opens it";
+    EXPECT_EQ(QSet<QString>(toCome.begin(), toCome.end()).size(), toCome.size());
+    // The catalog names the forms it makes.
+    const FormEntry *sobre = findForm(QStringLiteral("frmSobre"));
+    ASSERT_NE(sobre, nullptr);
+    std::unique_ptr<QWidget> made(sobre->make());
+    EXPECT_EQ(made->objectName(), QStringLiteral("frmSobre"));
+}
+
+// While a form is active its own access keys win over the menu bar's:
+// Alt+A presses "&Apagar" instead of opening "&Arquivos".
+TEST(MainWindow, TheActiveFormsAccessKeysWinOverTheMenuBar)
+{
+    QStringList pressed;
+    registerForm(QStringLiteral("frmTeclas"), FormKind::Child, [&pressed] {
+        auto *form = new QWidget;
+        auto *layout = new QVBoxLayout(form);
+        layout->addWidget(new QLineEdit(form));
+        for (const QString &caption : {QStringLiteral("&Apagar"), QStringLiteral("&Cancelar"), QStringLiteral("&Imprimir")}) {
+            auto *b = new QPushButton(caption, form);
+            QObject::connect(b, &QPushButton::clicked, [&pressed, caption] { pressed << caption; });
+            layout->addWidget(b);
+        }
+        return form;
+    });
+    mdiHabitarium mdi;
+    mdi.show();
+    mdi.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mdi));
+    QWidget *form = mdi.abreForm(QStringLiteral("frmTeclas"));
+    ASSERT_NE(form, nullptr);
+    form->findChild<QLineEdit *>()->setFocus();
+    for (Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_I}) {
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a menu opened on Alt+" << char(key);
+        if (QWidget *popup = QApplication::activePopupWidget())
+            popup->close();
+    }
+    EXPECT_EQ(pressed, (QStringList{QStringLiteral("&Apagar"), QStringLiteral("&Cancelar"), QStringLiteral("&Imprimir")}));
 }
 
 TEST(MainWindow, AFormThatFailsToLoadIsNotOpenedAndTheProgramGoesOn)

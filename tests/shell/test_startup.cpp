@@ -6,6 +6,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/installation.h"
+#include "core/scramble.h"
 #include "core/session.h"
 #include "core/startup.h"
 #include "support/scriptedprompter.h"

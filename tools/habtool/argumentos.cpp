@@ -4,6 +4,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/session.h"
+#include "core/validators.h"
 
 #include <QFileInfo>
 

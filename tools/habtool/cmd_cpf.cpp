@@ -1,5 +1,6 @@
 // habtool cpf TEXT / habtool cgc TEXT: the tax-number checks of the forms.
 #include "core/conversions.h"
+#include "core/validators.h"
 #include "tools/habtool/habtool.h"
 
 namespace {

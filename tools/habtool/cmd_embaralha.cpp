@@ -1,6 +1,7 @@
 // habtool embaralha adm|senha TEXT: the scrambled password, between brackets
 // so that its leading blank shows.
 #include "core/conversions.h"
+#include "core/scramble.h"
 #include "tools/habtool/habtool.h"
 
 namespace {

@@ -10,7 +10,9 @@
 #include "core/datastore.h"
 #include "core/installation.h"
 #include "core/prompter.h"
+#include "core/scramble.h"
 #include "core/session.h"
+#include "core/validators.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -208,9 +210,12 @@ void Demo::firmas()
         {"Limpadora Brilho Total Ltda.", 2, "Comercial"},
         {"Jardins & Cia. Paisagismo", 2, "Atendimento"},
     };
-    int porTipo[4] = {0, 0, 0, 0};
+    // The system finds a firm by its code alone, whatever its type: one code a firm.
+    int codigo = 0;
     for (const Firma &f : firmas) {
-        const int codigo = ++porTipo[f.tipo];
+        ++codigo;
+        if (f.tipo == 0)
+            ++imobiliarias_;
         const Endereco e = sorteiaEndereco(s_);
         const Pessoa contato = sorteiaPessoa(s_);
         exec(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,endereco,numero,complemento,bairro,cidade,uf,cep,cnpj,cpf,"
@@ -224,7 +229,6 @@ void Demo::firmas()
              + QStringLiteral("',") + q(contato.nome) + u',' + q(QString::fromUtf8(f.setor)) + u','
              + d(QDate(1960 + s_.between(0, 25), s_.between(1, 12), s_.between(1, 28))) + u')');
     }
-    imobiliarias_ = porTipo[0];
 }
 
 void Demo::unidades()

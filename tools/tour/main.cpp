@@ -77,8 +77,9 @@ int main(int argc, char **argv)
     setPrompter(&prompter);
     registerAllForms();
 
+    // The screen of an office PC: every form must fit it.
     mdiHabitarium mdi;
-    mdi.resize(1280, 800);
+    mdi.resize(1366, 768);
     installReportViewer(mdi.area());
     setModalHandler([&](QDialog &d) {
         if (d.objectName() == QLatin1String("frmSenha")) {

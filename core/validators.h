@@ -1,0 +1,13 @@
+#pragma once
+// The checks of a field's content. A failed tax-number check says so through
+// the prompter; ValidaUF reads the states of the system file.
+#include <QString>
+
+bool ValidaCPF(const QString &text);   // "CPF Inválido !" when the check digits disagree
+bool ValidaCGC(const QString &text);   // "CGC Inválido !"
+bool ValidaUF(const QString &uf);      // reads Estados on session.conSistema
+// A user's name goes into statements between apostrophes (the rights tests,
+// the settlement's stamp): a name holding one is refused where users are
+// registered, with kNomeUsuarioInvalido.
+bool NomeUsuarioValido(const QString &nome);
+inline const QString kNomeUsuarioInvalido = QStringLiteral("O nome do usuário não pode conter apóstrofo (') !");
