@@ -6,6 +6,8 @@
 #include "core/session.h"
 #include "core/transaction.h"
 
+#include <QStringBuilder>
+
 namespace {
 
 QString q(const QString &text) { return QStringLiteral("'") + text + QStringLiteral("'"); }
@@ -62,14 +64,14 @@ bool EncheRBalancete(Connection &con, const QString &mesIni, const QString &mesF
             }
         }
         const Money resultado = debitos - creditos;
-        con.Execute(QStringLiteral("INSERT INTO RBalancete(codigo,nome,tipo,classe,sintetico,") +
-                    QStringLiteral("sini,vdeb,vcre,sfin,spct,spo) ") + QStringLiteral("VALUES (") +
-                    q(rs[QStringLiteral("codigo")].text()) + QStringLiteral(",") + q(rs[QStringLiteral("nome")].text()) +
-                    QStringLiteral(",") + q(rs[QStringLiteral("tipo")].text()) + QStringLiteral(",") +
-                    q(rs[QStringLiteral("classe")].text()) + QStringLiteral(",") + booleano(rs[QStringLiteral("sintetico")]) +
-                    QStringLiteral(",") + q(saldoIni) + QStringLiteral(",") + q(debitos) + QStringLiteral(",") +
-                    q(creditos) + QStringLiteral(",") + q(saldoFin) + QStringLiteral(",") + q(resultado) +
-                    QStringLiteral(",") + q(previsto) + QStringLiteral(")"));
+        con.Execute(QStringLiteral("INSERT INTO RBalancete(codigo,nome,tipo,classe,sintetico,") %
+                    QStringLiteral("sini,vdeb,vcre,sfin,spct,spo) ") % QStringLiteral("VALUES (") %
+                    q(rs[QStringLiteral("codigo")].text()) % QStringLiteral(",") % q(rs[QStringLiteral("nome")].text()) %
+                    QStringLiteral(",") % q(rs[QStringLiteral("tipo")].text()) % QStringLiteral(",") %
+                    q(rs[QStringLiteral("classe")].text()) % QStringLiteral(",") % booleano(rs[QStringLiteral("sintetico")]) %
+                    QStringLiteral(",") % q(saldoIni) % QStringLiteral(",") % q(debitos) % QStringLiteral(",") %
+                    q(creditos) % QStringLiteral(",") % q(saldoFin) % QStringLiteral(",") % q(resultado) %
+                    QStringLiteral(",") % q(previsto) % QStringLiteral(")"));
         p.value += 1;
         if (progresso)
             progresso(p);

@@ -7,6 +7,7 @@
 #include "core/transaction.h"
 
 #include <QDate>
+#include <QStringBuilder>
 #include <cstdint>
 
 namespace {
@@ -76,13 +77,13 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
     auto lado = [&](const QString &cta, const QString &cpartida, const QString &tipolan) {
         if (cta.length() != 6)
             return;
-        con.Execute(QStringLiteral("INSERT INTO MovRazao(codigo,datalan,nrlan,cta,cpartida,") +
-                    QStringLiteral("nrdoc,histlan,vlrlan,tipolan) ") + QStringLiteral("VALUES (") +
-                    q(QString::number(contador)) + QStringLiteral(",") + q(mov[QStringLiteral("datalan")].text()) +
-                    QStringLiteral(",") + mov[QStringLiteral("codauto")].text() + QStringLiteral(",") + q(cta) +
-                    QStringLiteral(",") + q(cpartida) + QStringLiteral(",") + q(mov[QStringLiteral("nrdoc")].text()) +
-                    QStringLiteral(",") + q(mov[QStringLiteral("histlan")].text()) + QStringLiteral(",") +
-                    q(mov[QStringLiteral("vlrlan")].text()) + QStringLiteral(",") + q(tipolan) + QStringLiteral(")"));
+        con.Execute(QStringLiteral("INSERT INTO MovRazao(codigo,datalan,nrlan,cta,cpartida,") %
+                    QStringLiteral("nrdoc,histlan,vlrlan,tipolan) ") % QStringLiteral("VALUES (") %
+                    q(QString::number(contador)) % QStringLiteral(",") % q(mov[QStringLiteral("datalan")].text()) %
+                    QStringLiteral(",") % mov[QStringLiteral("codauto")].text() % QStringLiteral(",") % q(cta) %
+                    QStringLiteral(",") % q(cpartida) % QStringLiteral(",") % q(mov[QStringLiteral("nrdoc")].text()) %
+                    QStringLiteral(",") % q(mov[QStringLiteral("histlan")].text()) % QStringLiteral(",") %
+                    q(mov[QStringLiteral("vlrlan")].text()) % QStringLiteral(",") % q(tipolan) % QStringLiteral(")"));
         contador = proximo(contador);
     };
     while (!mov.eof()) {
@@ -124,10 +125,10 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
             Recordset plano = con.Execute(QStringLiteral("SELECT ") + colunaAbertura +
                                           QStringLiteral(" FROM plano WHERE codigo = '") + cta + QStringLiteral("'"));
             saldo = plano.eof() ? Money() : valorMensal(plano[colunaAbertura]);
-            con.Execute(insere + QStringLiteral("VALUES (") + q(QString::number(contador)) + QStringLiteral(",") +
-                        q(formatDate(inicio, QStringLiteral("dd/mm/yyyy"))) + QStringLiteral(",0,") + q(cta) +
-                        QStringLiteral(",'','',") + QStringLiteral("'Saldo Anterior',0,'',") + q(moneyText(saldo)) +
-                        QStringLiteral(",") + q(tipoSaldo(saldo)) + QStringLiteral(")"));
+            con.Execute(insere % QStringLiteral("VALUES (") % q(QString::number(contador)) % QStringLiteral(",") %
+                        q(formatDate(inicio, QStringLiteral("dd/mm/yyyy"))) % QStringLiteral(",0,") % q(cta) %
+                        QStringLiteral(",'','',") % QStringLiteral("'Saldo Anterior',0,'',") % q(moneyText(saldo)) %
+                        QStringLiteral(",") % q(tipoSaldo(saldo)) % QStringLiteral(")"));
             contador = proximo(contador);
             continue;
         }
@@ -136,15 +137,15 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
             saldo += valor;
         else
             saldo -= valor;
-        con.Execute(insere + QStringLiteral("VALUES (") + q(QString::number(contador)) + QStringLiteral(",") +
-                    q(linhas[QStringLiteral("datalan")].text()) + QStringLiteral(",") +
-                    linhas[QStringLiteral("nrlan")].text() + QStringLiteral(",") + q(cta) + QStringLiteral(",") +
-                    q(linhas[QStringLiteral("cpartida")].text()) + QStringLiteral(",") +
-                    q(linhas[QStringLiteral("nrdoc")].text()) + QStringLiteral(",") +
-                    q(linhas[QStringLiteral("histlan")].text()) + QStringLiteral(",") +
-                    q(linhas[QStringLiteral("vlrlan")].text()) + QStringLiteral(",") +
-                    q(linhas[QStringLiteral("tipolan")].text()) + QStringLiteral(",") + q(moneyText(saldo)) +
-                    QStringLiteral(",") + q(tipoSaldo(saldo)) + QStringLiteral(")"));
+        con.Execute(insere % QStringLiteral("VALUES (") % q(QString::number(contador)) % QStringLiteral(",") %
+                    q(linhas[QStringLiteral("datalan")].text()) % QStringLiteral(",") %
+                    linhas[QStringLiteral("nrlan")].text() % QStringLiteral(",") % q(cta) % QStringLiteral(",") %
+                    q(linhas[QStringLiteral("cpartida")].text()) % QStringLiteral(",") %
+                    q(linhas[QStringLiteral("nrdoc")].text()) % QStringLiteral(",") %
+                    q(linhas[QStringLiteral("histlan")].text()) % QStringLiteral(",") %
+                    q(linhas[QStringLiteral("vlrlan")].text()) % QStringLiteral(",") %
+                    q(linhas[QStringLiteral("tipolan")].text()) % QStringLiteral(",") % q(moneyText(saldo)) %
+                    QStringLiteral(",") % q(tipoSaldo(saldo)) % QStringLiteral(")"));
         p.value += 1;
         if (progresso)
             progresso(p);
