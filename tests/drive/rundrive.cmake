@@ -10,6 +10,11 @@
 # a fresh folder for --pdf, and is written in place of that folder's path in
 # the output. Every PDF a REPORT line names must exist and be a PDF, and so
 # must each file a line "# writes: FILE" names (relative to the run's folder).
+# A line "# pdftext: NAME.pdf" (a file of the --pdf folder) adds to the output,
+# after every run, "PDF NAME.pdf pages N" and the text of that PDF as
+# pdftotext lays it out, blanks squeezed, empty lines left out: what a printed
+# paper says is checked as the rest of the output is. Today's date reads
+# @HOJE@ there, and a time right after it @HORA@.
 cmake_minimum_required(VERSION 3.25)
 
 function(fenced text tag out)
@@ -80,6 +85,32 @@ foreach(file ${files})
   if(NOT head MATCHES "^%PDF")
     message(FATAL_ERROR "${pdf} is not a PDF")
   endif()
+endforeach()
+
+string(REGEX MATCHALL "(^|\n)# pdftext: [^\n]*" texts "${script_text}")
+foreach(line ${texts})
+  string(REGEX REPLACE "^\n?# pdftext: *" "" name "${line}")
+  string(STRIP "${name}" name)
+  set(pdf "${WORK}/pdf/${name}")
+  if(NOT EXISTS "${pdf}")
+    message(FATAL_ERROR "${pdf} was not written")
+  endif()
+  execute_process(COMMAND pdfinfo "${pdf}" OUTPUT_VARIABLE info RESULT_VARIABLE rc)
+  string(REGEX MATCH "Pages: *([0-9]+)" _ "${info}")
+  string(APPEND actual "PDF ${name} pages ${CMAKE_MATCH_1}\n")
+  execute_process(COMMAND pdftotext -layout "${pdf}" - OUTPUT_VARIABLE text RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "pdftotext failed on ${pdf}")
+  endif()
+  string(REPLACE "\f" "\n" text "${text}")
+  string(REGEX REPLACE "[ \t]+" " " text "${text}")
+  string(REGEX REPLACE " *\n *" "\n" text "${text}")
+  string(REGEX REPLACE "\n+" "\n" text "${text}")
+  string(REGEX REPLACE "^\n" "" text "${text}")
+  string(TIMESTAMP today "%d/%m/%Y")
+  string(REPLACE "${today}" "@HOJE@" text "${text}")
+  string(REGEX REPLACE "@HOJE@ [0-9][0-9]:[0-9][0-9](:[0-9][0-9])?" "@HOJE@ @HORA@" text "${text}")
+  string(APPEND actual "${text}")
 endforeach()
 
 if(NOT actual STREQUAL expected)
