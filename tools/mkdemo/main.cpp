@@ -150,17 +150,19 @@ void Demo::condominio()
     cn_.Close();
 }
 
+// Makes and their models; a vehicle stores the names, as the register's combos give them.
+static const char *const kMarcas[][4] = {{"Volkswagen", "Gol", "Fox", "Polo"},     {"Fiat", "Uno", "Palio", "Siena"},
+                                         {"Chevrolet", "Celta", "Corsa", "Astra"}, {"Ford", "Ka", "Fiesta", "Focus"},
+                                         {"Honda", "Civic", "Fit", "CR-V"},        {"Toyota", "Corolla", "Hilux", "Fielder"}};
+
 void Demo::tabelas()
 {
     exec(QStringLiteral("INSERT INTO TpAp(codigo,descri,rateio) VALUES('01',\"Apartamento de 2 dormitórios\",'1')"));
     exec(QStringLiteral("INSERT INTO TpAp(codigo,descri,rateio) VALUES('02',\"Apartamento de 3 dormitórios\",'1.3')"));
     exec(QStringLiteral("INSERT INTO TpAp(codigo,descri,rateio) VALUES('03',\"Cobertura duplex\",'2')"));
 
-    const char *const marcas[][4] = {{"Volkswagen", "Gol", "Fox", "Polo"},     {"Fiat", "Uno", "Palio", "Siena"},
-                                     {"Chevrolet", "Celta", "Corsa", "Astra"}, {"Ford", "Ka", "Fiesta", "Focus"},
-                                     {"Honda", "Civic", "Fit", "CR-V"},        {"Toyota", "Corolla", "Hilux", "Fielder"}};
     int mk = 0;
-    for (const auto &marca : marcas) {
+    for (const auto &marca : kMarcas) {
         ++mk;
         exec(QStringLiteral("INSERT INTO Tpveiculos(codgrupo,grupo,descri) VALUES('") + z(mk, 2) + QStringLiteral("',True,")
              + q(QString::fromUtf8(marca[0])) + u')');
@@ -248,7 +250,8 @@ void Demo::unidades()
     }
 
     const char *const cores[] = {"Prata", "Preto", "Branco", "Vermelho", "Azul", "Cinza", "Verde"};
-    const char *const vinculos[] = {"Cônjuge", "Filho(a)", "Filho(a)", "Pai/Mãe", "Outro"};
+    // The bond is stored as its digit: 3 Cônjuge, 4 Filho(a), 5 Pai/Mãe, 7 Outros.
+    const char *const vinculos[] = {"3", "4", "4", "5", "7"};
     QSet<QString> placas;
     int n = 0;
     for (int bl = 1; bl <= blocos && n < units_; ++bl) {
@@ -313,14 +316,14 @@ void Demo::unidades()
                     exec(QStringLiteral("INSERT INTO Moradores(codap,nome,nascto,vinculo) VALUES('") + u.codigo
                          + QStringLiteral("',") + q(titular.nome) + u','
                          + d(QDate(1940 + s_.between(0, 45), s_.between(1, 12), s_.between(1, 28))) + u','
-                         + q(alugado ? QStringLiteral("Inquilino") : QStringLiteral("Proprietário")) + u')');
+                         + a(alugado ? QStringLiteral("2") : QStringLiteral("1")) + u')');
                     for (int k = s_.between(0, 3); k > 0; --k) {
                         const QString nascto = s_.chance(85)
                             ? d(QDate(1940 + s_.between(0, 67), s_.between(1, 12), s_.between(1, 28)))
                             : QStringLiteral("Null");
                         exec(QStringLiteral("INSERT INTO Moradores(codap,nome,nascto,vinculo) VALUES('") + u.codigo
                              + QStringLiteral("',") + q(sorteiaPessoa(s_).nome) + u',' + nascto + u','
-                             + q(QString::fromUtf8(s_.pick(vinculos))) + u')');
+                             + a(QString::fromUtf8(s_.pick(vinculos))) + u')');
                     }
                     for (int k = s_.between(0, 100) < 55 ? 1 : (s_.chance(20) ? 2 : 0); k > 0; --k) {
                         QString placa;
@@ -336,8 +339,8 @@ void Demo::unidades()
                         const int modelo = s_.between(1, 3);
                         exec(QStringLiteral("INSERT INTO Veiculos(chapa,apto,proprietario,cor,marca,modelo,obs,ano) VALUES('")
                              + placa + QStringLiteral("','") + u.codigo + QStringLiteral("',") + q(titular.nome) + u','
-                             + q(QString::fromUtf8(s_.pick(cores))) + u',' + a(z(marca, 2)) + u','
-                             + a(z(marca, 2) + z(modelo, 2)) + QStringLiteral(",\" \",'")
+                             + q(QString::fromUtf8(s_.pick(cores))) + u',' + q(QString::fromUtf8(kMarcas[marca - 1][0])) + u','
+                             + q(QString::fromUtf8(kMarcas[marca - 1][modelo])) + QStringLiteral(",\" \",'")
                              + QString::number(s_.between(1996, 2008)) + QStringLiteral("')"));
                     }
                 }
