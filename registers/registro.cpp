@@ -53,3 +53,13 @@ QString normalizaChave(const Registro &registro, const QString &mascarado)
         return QString::number(qint64(val(puro)));
     return registro.largura > 0 && puro.size() <= registro.largura ? ZeroEsq(puro, registro.largura) : puro;
 }
+
+QString normalizaGrupo(const QString &mascarado)
+{
+    const QString bare = mascarado.left(4);
+    if (bare.size() == 4 && !bare.contains(u'_'))
+        return bare;
+    if (bare.mid(2).remove(u'_').isEmpty() && !bare.left(2).contains(u'_'))
+        return bare.left(2);
+    return QString();
+}

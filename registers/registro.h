@@ -79,6 +79,8 @@ struct Registro {
     RelatorioRegistro relatorio;       // empty sql: the register prints nothing
     PesquisaRegistro pesquisa;
     QString codigoInvalido = QStringLiteral("Todo Registro deve ter um código válido");
+    // A new record whose code the file has already.
+    QString codigoRepetido = QStringLiteral("Código Já Cadastrado, Troque o Número !");
     QString abandono = QStringLiteral("Você não pode abandonar uma operação em andamento, grave ou cancele !");
 };
 
@@ -90,3 +92,7 @@ QStringList nomesDoModelo(const QString &modelo);
 // The code as the register keeps it, from the text of the code field with its
 // prompts; empty when no code was typed.
 QString normalizaChave(const Registro &registro, const QString &mascarado);
+// The code of a two-level table (blocks and subgroups, makes and models) from
+// the text of its "####" field: "01__" is the first level 01, "0101" its
+// second level; anything else is no code.
+QString normalizaGrupo(const QString &mascarado);

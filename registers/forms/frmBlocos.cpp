@@ -31,16 +31,7 @@ frmBlocos::frmBlocos(QWidget *parent) : RecordForm(descricao(), parent)
     carrega();
 }
 
-QString frmBlocos::normalizaCodigo(const QString &masked) const
-{
-    // "01__" is the block 01; "0101" its subgroup; anything else is no code.
-    const QString bare = masked.left(4);
-    if (bare.size() == 4 && !bare.contains(u'_'))
-        return bare;
-    if (bare.mid(2).remove(u'_').isEmpty() && !bare.left(2).contains(u'_'))
-        return bare.left(2);
-    return QString();
-}
+QString frmBlocos::normalizaCodigo(const QString &masked) const { return normalizaGrupo(masked); }
 
 void frmBlocos::valoresExtras(QHash<QString, QString> &valores) const
 {

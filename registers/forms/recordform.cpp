@@ -101,6 +101,8 @@ void RecordForm::carrega()
 
 QString RecordForm::normalizaCodigo(const QString &masked) const { return normalizaChave(registro_, masked); }
 
+bool RecordForm::codigoVazio(const QString &codigo) const { return codigo.isEmpty() || val(codigo) == 0; }
+
 QString RecordForm::codigoAtual() const { return normalizaCodigo(mskCodigo_->textoMascarado()); }
 
 QString RecordForm::valorDe(const Campo &c) const
@@ -226,7 +228,7 @@ void RecordForm::focaCodigo()
 void RecordForm::mskCodigo_LostFocus()
 {
     const QString codigo = codigoAtual();
-    if (codigo.isEmpty() || val(codigo) == 0) {
+    if (codigoVazio(codigo)) {
         TrocaModo(1);
         focaCodigo();
         return;
@@ -278,16 +280,18 @@ void RecordForm::validaCampos()
 
 void RecordForm::cmdGravar_Click()
 {
+    if (!podeGravar())
+        return;
     const QString codigo = codigoAtual();
     session.valorPesq = codigo;
     LimpaErros();
     antesDasRegras();
-    if (codigo.isEmpty() || val(codigo) == 0)
+    if (codigoVazio(codigo))
         AnotaErro(kErroFatal, registro_.codigoInvalido);
     if (novo_ && !codigo.isEmpty()) {
         Recordset rs = cn_.Execute(sql(registro_.existe, codigo));
         if (!rs.eof())
-            AnotaErro(kErroFatal, QStringLiteral("Código Já Cadastrado, Troque o Número !"));
+            AnotaErro(kErroFatal, registro_.codigoRepetido);
     }
     validaCampos();
     session.temErros = session.qtErros > 1;

@@ -66,6 +66,9 @@ protected:
     // ---- What a register may add to its description ----
     // The code as the register keeps it (the description's rule by default).
     virtual QString normalizaCodigo(const QString &masked) const;
+    // No code was typed: empty, or of value 0 (by default). A code of letters
+    // (a plate) says so by its own rule.
+    virtual bool codigoVazio(const QString &codigo) const;
     // Values the statements name beyond the bound controls.
     virtual void valoresExtras(QHash<QString, QString> &valores) const { Q_UNUSED(valores); }
     // After the bound controls were loaded from the row.
@@ -94,6 +97,9 @@ protected:
     virtual bool codigoRecusado(bool achou) { Q_UNUSED(achou); return false; }
     // The user answered no to the inclusion question.
     virtual void inclusaoRecusada() {}
+    // Before anything of the save: false refuses it (the register has told
+    // the user why), with nothing noted and nothing written.
+    virtual bool podeGravar() { return true; }
     // Before the save's rules.
     virtual void antesDasRegras() {}
     // After the insert or update was sent.
