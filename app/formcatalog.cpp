@@ -3,6 +3,13 @@
 #include "core/forms/formcatalog.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
+#include "registers/forms/frmMobra.h"
+#include "registers/forms/frmMoradores.h"
+#include "registers/forms/frmMoradores2.h"
+#include "registers/forms/frmPesqEv.h"
+#include "registers/forms/frmTEventos.h"
+#include "registers/forms/frmTpveiculos.h"
+#include "registers/forms/frmVeiculos.h"
 #include "registers/forms/frmPesqGeral.h"
 #include "registers/forms/frmPesqap.h"
 #include "registers/forms/frmPesquisa.h"
@@ -21,6 +28,13 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmMoradores>(FormKind::Child);
+    registerForm<frmMoradores2>(FormKind::Dialog);
+    registerForm<frmVeiculos>(FormKind::Child);
+    registerForm<frmTpveiculos>(FormKind::Child);
+    registerForm<frmMobra>(FormKind::Child);
+    registerForm<frmTEventos>(FormKind::Child);
+    registerForm<frmPesqEv>(FormKind::Dialog);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -30,8 +44,7 @@ QStringList formsToCome()
 {
     return {
         // Registers
-        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
-        QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
+        QStringLiteral("frmAptos"),
         // Accounting
         QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
         QStringLiteral("frmMovSaldini"), QStringLiteral("frmMov_BalctP"), QStringLiteral("frmTContas"),
@@ -40,7 +53,7 @@ QStringList formsToCome()
         // Billing
         QStringLiteral("frmPesqfin"), QStringLiteral("frmAjTxVcto"), QStringLiteral("frmRecBaixa"),
         QStringLiteral("frmParametro"), QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
-        QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
+        QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks
         QStringLiteral("frmBcoDiversos"), QStringLiteral("frmBoleto"), QStringLiteral("frmCriaTxt"),

@@ -2,6 +2,11 @@
 // descriptions. A new register adds its line here.
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
+#include "registers/forms/frmMobra.h"
+#include "registers/forms/frmMoradores.h"
+#include "registers/forms/frmTEventos.h"
+#include "registers/forms/frmTpveiculos.h"
+#include "registers/forms/frmVeiculos.h"
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
@@ -9,5 +14,6 @@
 QList<const Registro *> todosRegistros()
 {
     return {&frmBlocos::descricao(), &frmTTipAp::descricao(), &frmCpj::descricao(), &frmUsucli::descricao(),
-            &frmUsuarios::descricao()};
+            &frmUsuarios::descricao(), &frmMoradores::descricao(), &frmVeiculos::descricao(),
+            &frmTpveiculos::descricao(), &frmMobra::descricao(), &frmTEventos::descricao()};
 }

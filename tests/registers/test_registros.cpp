@@ -31,6 +31,12 @@ QHash<QString, QString> valoresDeExemplo(const Registro &r, const QString &codig
     v.insert(QStringLiteral("senha"), QStringLiteral("abc"));
     v.insert(QStringLiteral("hoje"), QStringLiteral("23/11/2026"));
     v.insert(QStringLiteral("empat"), QStringLiteral("1"));
+    for (const char *unidade : {"codap", "codapAntigo", "apto"})
+        v.insert(QString::fromLatin1(unidade), QStringLiteral("000101"));
+    v.insert(QStringLiteral("nomeAntigo"), QStringLiteral("X"));
+    v.insert(QStringLiteral("vinculo"), QStringLiteral("1"));
+    v.insert(QStringLiteral("tipo"), QStringLiteral("0"));
+    v.insert(QStringLiteral("codemap"), QStringLiteral("0"));
     return v;
 }
 
@@ -68,6 +74,30 @@ const Esperado kEsperados[] = {
      "cfbai) VALUES( '77',\"X\",\"abc\",'M','23/11/2026','1',True,True,True,True,True,True,True,True,True)",
      "Update usuarios Set nome = \"X\",impressora = 'M',empat = '1',Bdcon = True,Bdadi = True,Bdexc = True,"
      "Bdalt = True,Cfcon = True,Cfadi = True,Cfexc = True,Cfalt = True,Cfbai = True Where codigo = 77"},
+    // A resident is found by the number the file gives it: the first is 1.
+    {"frmMoradores", "1",
+     "INSERT INTO Moradores(nome,nascto,vinculo,codap) VALUES(\"X\",Null,'1','000101')",
+     "Update Moradores Set nascto = Null,nome = \"X\",codap = '000101',"
+     "vinculo = '1' Where codap = '000101' and nome = \"X\""},
+    {"frmVeiculos", "ABC-1234",
+     "INSERT INTO Veiculos(chapa,apto,proprietario,ano,cor,marca,modelo,obs) VALUES('ABC-1234','000101',"
+     "\"X\",'_____',\"X\",\"X\",\"X\",\"X\")",
+     "Update Veiculos Set apto = '000101',proprietario = \"X\",ano = '_____',cor = \"X\",marca = \"X\","
+     "modelo = \"X\",obs = \"X\" Where chapa = 'ABC-1234'"},
+    {"frmTpveiculos", "0701",
+     "INSERT INTO Tpveiculos(codgrupo,Grupo,Descri) VALUES('0701',True,\"X\")",
+     "Update Tpveiculos Set Descri = \"X\" Where codgrupo = '0701'"},
+    {"frmTEventos", "077",
+     "INSERT INTO Eventos(codigo,nome,tipo,ir,refer,valor) VALUES('077',\"X\",'H',True,True,'1.5')",
+     "Update Eventos Set nome = \"X\",tipo = 'H',ir = True,refer = True,valor = '1.5' Where codigo = '077'"},
+    {"frmMobra", "77",
+     "INSERT INTO Mobra(codigo,nome,rg,cpf,ctps,serctps,ufctps,endereco,numero,complemento,bairro,cidade,"
+     "uf,cep,tipo,nascto,codemap,qualif1,qualif2,qualif3,observ) VALUES(77,\"X\",'_____','_____',\"X\","
+     "\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'_____','0',null,0,\"X\",\"X\",\"X\",\"X\")",
+     "Update Mobra Set Nome = \"X\",rg = '_____',cpf = '_____',ctps = \"X\",serctps = \"X\","
+     "ufctps = \"X\",endereco = \"X\",numero = \"X\",complemento = \"X\",bairro = \"X\",cidade = \"X\","
+     "uf = \"X\",cep = '_____',tipo = '0',Nascto = null,codemap = 0,qualif1 = \"X\",qualif2 = \"X\","
+     "qualif3 = \"X\",observ = \"X\" Where codigo = 77"},
 };
 }
 
@@ -144,7 +174,12 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include "core/widgets/modal.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
+#include "registers/forms/frmMobra.h"
+#include "registers/forms/frmMoradores.h"
+#include "registers/forms/frmTEventos.h"
 #include "registers/forms/frmTTipAp.h"
+#include "registers/forms/frmTpveiculos.h"
+#include "registers/forms/frmVeiculos.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
 
@@ -169,6 +204,11 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmCpj"), [] { return new frmCpj; }},
         {QStringLiteral("frmUsucli"), [] { return new frmUsucli; }},
         {QStringLiteral("frmUsuarios"), [] { return new frmUsuarios; }},
+        {QStringLiteral("frmMoradores"), [] { return new frmMoradores; }},
+        {QStringLiteral("frmVeiculos"), [] { return new frmVeiculos; }},
+        {QStringLiteral("frmTpveiculos"), [] { return new frmTpveiculos; }},
+        {QStringLiteral("frmMobra"), [] { return new frmMobra; }},
+        {QStringLiteral("frmTEventos"), [] { return new frmTEventos; }},
     };
     return f;
 }
@@ -181,6 +221,11 @@ struct AreaDeTrabalho {
         dir.makeCondominium(1);
         dir.useInSession(1);
         session.usuario = QStringLiteral("Administrador");
+        // The vehicles' register warns on load when there is no make.
+        Connection cn;
+        cn.Open(session.conAtiva);
+        cn.Execute(QStringLiteral("INSERT INTO Tpveiculos(codgrupo,grupo,descri) VALUES('01',True,\"Fiat\")"));
+        cn.Close();
         area.resize(1300, 640);
         area.show();
         area.activateWindow();
@@ -288,7 +333,7 @@ TEST(Registros, EnterAfterANewCodeGoesToTheFieldsAndTabFollowsThem)
         QMdiSubWindow *sub = t.abre(fabrica());
         auto *form = static_cast<RecordForm *>(sub->widget());
         QWidget *codigo = QApplication::focusWidget();
-        QTest::keyClicks(codigo, QStringLiteral("77"));
+        QTest::keyClicks(codigo, nome == QLatin1String("frmVeiculos") ? QStringLiteral("ABC1234") : QStringLiteral("77"));
         QTest::keyClick(codigo, Qt::Key_Return);
         QTest::qWait(10);
         ASSERT_EQ(form->modo(), 3);
