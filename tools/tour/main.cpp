@@ -124,6 +124,9 @@ int main(int argc, char **argv)
         const bool sistema = entry.name == QLatin1String("frmPesqGeral");
         session.tabPesq = sistema ? QStringLiteral("Clientes") : QStringLiteral("Aptos");
         session.tituloPesq = sistema ? QStringLiteral("Pesquisa de Condomínios") : QStringLiteral("Pesquisa de Apartamentos");
+        // The residents of a unit are shown for the demo's first unit.
+        session.valorPesq = entry.name == QLatin1String("frmMoradores2") ? QStringLiteral("010101")
+                                                                          : QString::number(session.codUsuario);
         try {
             switch (entry.kind) {
             case FormKind::Child: {
