@@ -1,6 +1,7 @@
 #include "app/formcatalog.h"
 
 #include "core/forms/formcatalog.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmPesqGeral.h"
@@ -21,6 +22,7 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmAptos>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -30,7 +32,7 @@ QStringList formsToCome()
 {
     return {
         // Registers
-        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
+        QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
         QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
         // Accounting
         QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),

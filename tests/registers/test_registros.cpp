@@ -31,6 +31,11 @@ QHash<QString, QString> valoresDeExemplo(const Registro &r, const QString &codig
     v.insert(QStringLiteral("senha"), QStringLiteral("abc"));
     v.insert(QStringLiteral("hoje"), QStringLiteral("23/11/2026"));
     v.insert(QStringLiteral("empat"), QStringLiteral("1"));
+    v.insert(QStringLiteral("tapto"), QStringLiteral("01"));
+    v.insert(QStringLiteral("tuso"), QStringLiteral("1"));
+    v.insert(QStringLiteral("situ"), QStringLiteral("A"));
+    v.insert(QStringLiteral("codimob"), QStringLiteral("1"));
+    v.insert(QStringLiteral("codfin"), QStringLiteral("1"));
     return v;
 }
 
@@ -68,6 +73,24 @@ const Esperado kEsperados[] = {
      "cfbai) VALUES( '77',\"X\",\"abc\",'M','23/11/2026','1',True,True,True,True,True,True,True,True,True)",
      "Update usuarios Set nome = \"X\",impressora = 'M',empat = '1',Bdcon = True,Bdadi = True,Bdexc = True,"
      "Bdalt = True,Cfcon = True,Cfadi = True,Cfexc = True,Cfalt = True,Cfbai = True Where codigo = 77"},
+    {"frmAptos", "000077",
+     "INSERT INTO Aptos(codigo,nome,codinterno,tapto,tuso,situ,nrcontpm,seguropro,quitado,cabina,aposentado,"
+     "crateio,codimob,codfin,conjugepro,enderecopro,numeropro,complementopro,bairropro,cidadepro,ufpro,ceppro,"
+     "cpfpro,rgpro,cnpjpro,emailpro,inquilino,enderecoinq,numeroinq,complementoinq,bairroinq,cidadeinq,ufinq,"
+     "cepinq,cpfinq,rginq,cnpjinq,emailinq,dddap,foneap,dddpro,fonepro,dddinq,foneinq,dddcoml,fonecoml,tipcob,"
+     "nemis,demis,nrecibo,tipbolbco,observ) VALUES('000077',\"X\",\"X\",'01','1','A','_____',True,True,True,"
+     "True,'1.5','1','1',\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'X','_____','_____','_____','_____',\"X\","
+     "\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'X','_____','_____','_____','_____',\"X\",'X','X','X','X','X','X',"
+     "'X','X','X','0','01/01/2003','000000','X',\"X\")",
+     "Update Aptos Set nome = \"X\",codinterno = \"X\",tapto = '01',tuso = '1',situ = 'A',nrcontpm = '_____',"
+     "seguropro = True,quitado = True,cabina = True,aposentado = True,crateio = '1.5',codimob = '1',"
+     "codfin = '1',conjugepro = \"X\",enderecopro = \"X\",numeropro = \"X\",complementopro = \"X\","
+     "bairropro = \"X\",cidadepro = \"X\",ufpro = 'X',ceppro = '_____',cpfpro = '_____',rgpro = '_____',"
+     "cnpjpro = '_____',emailpro = \"X\",inquilino = \"X\",enderecoinq = \"X\",numeroinq = \"X\","
+     "complementoinq = \"X\",bairroinq = \"X\",cidadeinq = \"X\",ufinq = 'X',cepinq = '_____',cpfinq = '_____',"
+     "rginq = '_____',cnpjinq = '_____',emailinq = \"X\",dddap = 'X',foneap = 'X',dddpro = 'X',fonepro = 'X',"
+     "dddinq = 'X',foneinq = 'X',dddcoml = 'X',fonecoml = 'X',tipcob = 'X',tipbolbco = 'X',"
+     "observ = \"X\" Where codigo = '000077'"},
 };
 }
 
@@ -142,6 +165,7 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include "registerssupport.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/modal.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmTTipAp.h"
@@ -169,6 +193,7 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmCpj"), [] { return new frmCpj; }},
         {QStringLiteral("frmUsucli"), [] { return new frmUsucli; }},
         {QStringLiteral("frmUsuarios"), [] { return new frmUsuarios; }},
+        {QStringLiteral("frmAptos"), [] { return new frmAptos; }},
     };
     return f;
 }
