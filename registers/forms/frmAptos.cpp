@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QStandardItemModel>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTreeView>
 
@@ -246,7 +247,9 @@ frmAptos::frmAptos(QWidget *parent) : RecordForm(descricao(), parent)
         aoPerderFoco(cnpj, [cnpj] { confereCGC(cnpj); });
     }
 
-    // Tabbing walks the pages of the tab strip.
+    // Tabbing walks the pages of the tab strip; the strip itself is no stop (a click opens a page).
+    ssfones_->setFocusPolicy(Qt::NoFocus);
+    ssfones_->tabBar()->setFocusPolicy(Qt::NoFocus);
     const QList<QPair<QWidget *, QWidget *>> paginas{{ui.txtConjugepro, ui.txtMailpro},
                                                      {ui.txtNomeinq, ui.txtMailinq},
                                                      {ui.txtDddapto, ui.txtFonecoml},

@@ -180,6 +180,7 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
+#include <QStackedWidget>
 #include "core/widgets/keyboard.h"
 #include <QTest>
 #include <functional>
@@ -193,7 +194,17 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmCpj"), [] { return new frmCpj; }},
         {QStringLiteral("frmUsucli"), [] { return new frmUsucli; }},
         {QStringLiteral("frmUsuarios"), [] { return new frmUsuarios; }},
-        {QStringLiteral("frmAptos"), [] { return new frmAptos; }},
+        {QStringLiteral("frmAptos"),
+         [] {
+             // What the units' form reads as it opens: a type and the firms' (Nenhum) rows.
+             Connection cn;
+             cn.Open(session.conAtiva);
+             cn.Execute(QStringLiteral("INSERT INTO TpAp(codigo,descri,rateio) VALUES('01','Térreo','1')"));
+             cn.Execute(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',0)"));
+             cn.Execute(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',1)"));
+             cn.Close();
+             return new frmAptos;
+         }},
     };
     return f;
 }
@@ -320,9 +331,16 @@ TEST(Registros, EnterAfterANewCodeGoesToTheFieldsAndTabFollowsThem)
         auto *dados = form->findChild<QWidget *>(QStringLiteral("fraDados"));
         // Every field a clerk types in, once each, before the buttons (an
         // option group is one stop, at whichever of its buttons).
+        // A field on another page of a tab strip counts: Tab walks the pages.
+        auto aVista = [](QWidget *w) {
+            for (QWidget *p = w; p->parentWidget(); p = p->parentWidget())
+                if (qobject_cast<QStackedWidget *>(p->parentWidget()))
+                    return w->isVisibleTo(p) && p->parentWidget()->isVisible();
+            return w->isVisible();
+        };
         QSet<QString> esperados;
         for (QWidget *w : dados->findChildren<QWidget *>()) {
-            if (w->isEnabled() && w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !qobject_cast<QRadioButton *>(w))
+            if (w->isEnabled() && aVista(w) && (w->focusPolicy() & Qt::TabFocus) && !qobject_cast<QRadioButton *>(w))
                 esperados.insert(w->objectName());
         }
         QSet<QString> visitados;
