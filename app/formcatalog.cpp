@@ -1,6 +1,9 @@
 #include "app/formcatalog.h"
 
+#include "billing/forms/frmAjTxVcto.h"
+#include "billing/forms/frmParametro.h"
 #include "core/forms/formcatalog.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmMobra.h"
@@ -35,24 +38,25 @@ void registerAllForms()
     registerForm<frmMobra>(FormKind::Child);
     registerForm<frmTEventos>(FormKind::Child);
     registerForm<frmPesqEv>(FormKind::Dialog);
+    registerForm<frmAptos>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
+    registerForm<frmParametro>(FormKind::Dialog);
+    registerForm<frmAjTxVcto>(FormKind::Child);
 }
 
 QStringList formsToCome()
 {
     return {
-        // Registers
-        QStringLiteral("frmAptos"),
         // Accounting
         QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
         QStringLiteral("frmMovSaldini"), QStringLiteral("frmMov_BalctP"), QStringLiteral("frmTContas"),
         QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
-        QStringLiteral("frmPesqfin"), QStringLiteral("frmAjTxVcto"), QStringLiteral("frmRecBaixa"),
-        QStringLiteral("frmParametro"), QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
+        QStringLiteral("frmPesqfin"), QStringLiteral("frmRecBaixa"),
+        QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks
