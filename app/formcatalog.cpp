@@ -1,5 +1,8 @@
 #include "app/formcatalog.h"
 
+#include "banks/forms/frmBcoDiversos.h"
+#include "banks/forms/frmCriaTxt.h"
+#include "banks/forms/frmGAbre_Arq.h"
 #include "core/forms/formcatalog.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
@@ -21,6 +24,9 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmBcoDiversos>(FormKind::Child);
+    registerForm<frmCriaTxt>(FormKind::Child);
+    registerForm<frmGAbre_Arq>(FormKind::Dialog);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -43,7 +49,7 @@ QStringList formsToCome()
         QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks
-        QStringLiteral("frmBcoDiversos"), QStringLiteral("frmBoleto"), QStringLiteral("frmCriaTxt"),
+        QStringLiteral("frmBoleto"),
         // Reporting
         QStringLiteral("frmRelEnd"), QStringLiteral("frmRAptos"), QStringLiteral("frmRTelefonica"),
         QStringLiteral("frmRelatArq"), QStringLiteral("frmNormal"), QStringLiteral("frmPadrao"),
