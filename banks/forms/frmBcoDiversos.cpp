@@ -1,6 +1,7 @@
 #include "banks/forms/frmBcoDiversos.h"
 
 #include "banks/demonstrativo.h"
+#include "banks/forms/boletos.h"
 #include "banks/forms/frmGAbre_Arq.h"
 #include "banks/remessa.h"
 #include "core/conversions.h"
@@ -444,71 +445,18 @@ void frmBcoDiversos::cmdGerarR_Click()
     }
 }
 
-namespace {
-// The slip's data columns, in the order the templates read them.
-QStringList colunasBoleto()
-{
-    QStringList c{QStringLiteral("Vencto"), QStringLiteral("NumDoc"), QStringLiteral("lindigbco"), QStringLiteral("barrabco"),
-                  QStringLiteral("nrbco"), QStringLiteral("Valor"), QStringLiteral("DataDoc"), QStringLiteral("Codap"),
-                  QStringLiteral("obs1"), QStringLiteral("obs2")};
-    for (int i = 0; i < 10; ++i)
-        c << QStringLiteral("item%1").arg(i) << QStringLiteral("evnt%1").arg(i) << QStringLiteral("refer%1").arg(i)
-          << QStringLiteral("valor%1").arg(i);
-    c << QStringLiteral("nome") << QStringLiteral("enderecopro") << QStringLiteral("numeropro")
-      << QStringLiteral("complementopro") << QStringLiteral("bairropro") << QStringLiteral("cidadepro")
-      << QStringLiteral("ufpro") << QStringLiteral("ceppro") << QStringLiteral("cpfpro") << QStringLiteral("codinterno");
-    return c;
-}
-}
-
 bool frmBcoDiversos::imprimeBoletos(const QString &filtro)
 {
-    const QString sql = QStringLiteral("SELECT Aptos.codinterno, Aptos.Nome, Aptos.Enderecopro, Aptos.Numeropro, "
-                                       "Aptos.Complementopro, Aptos.Bairropro, Aptos.Cidadepro, Aptos.Ufpro, Aptos.Ceppro, "
-                                       "Aptos.Cpfpro, Recibos.*")
-                        + QStringLiteral(" FROM recibos INNER JOIN Aptos ON recibos.codap = Aptos.Codigo") + filtro;
-    Recordset par = cn_.Execute(QStringLiteral(
-        "SELECT RitauCd,RitauAg,RitauCc,RitauCart,ritaunn,RitauEsp,Rconvenio FROM Parametros Where Codigo = 1"));
-    const QString carteira = ui_->mskCarteiraR->textoPuro();
-    ReportFormulas formulas{
-        {QStringLiteral("Cedente"), par[QStringLiteral("RitauCd")].text()},
-        {QStringLiteral("AgConta"), par[QStringLiteral("RitauAg")].text() + QStringLiteral("/") + par[QStringLiteral("RitauCc")].text()},
-        {QStringLiteral("Carteira"), carteira},
-        {QStringLiteral("EspecieDoc"), codigoEspecie(ui_->txtRBanco->text(), ui_->cmbEspecieR->currentText())},
-        {QStringLiteral("DataProc"), ui_->tdbDatagR->text()},
-        {QStringLiteral("Titu"), ui_->txtTitulo->text()}};
+    DadosBoleto d;
+    d.banco = ui_->txtRBanco->text();
+    d.carteira = ui_->mskCarteiraR->textoPuro();
+    d.especie = codigoEspecie(d.banco, ui_->cmbEspecieR->currentText());
+    d.dataProc = ui_->tdbDatagR->text();
+    d.titulo = ui_->txtTitulo->text();
     const TelaBanco t = tela();
     for (int n = 0; n < 6; ++n)
-        formulas.append({QStringLiteral("Instru%1").arg(n + 1), t.instrucoes[n]});
-    for (int n = 0; n < int(session.demonstrativo.size()); ++n)
-        formulas.append({QStringLiteral("Linha%1").arg(n, 3, 10, QChar(u'0')), session.demonstrativo[size_t(n)]});
-    QHash<QString, QString> eventos;
-    for (Recordset ev = cn_.Execute(QStringLiteral("SELECT codigo,nome FROM eventos")); !ev.eof(); ev.moveNext())
-        eventos.insert(ev[QStringLiteral("codigo")].text(), ev[QStringLiteral("nome")].text().trimmed());
-    Recordset rs;
-    return ImprimeRelatorio(cn_, rs, sql, colunasBoleto(), QStringLiteral("BolRelItau.rpt"), ui_->txtTitulo->text(),
-                            formulas, [&](const Recordset &r) {
-        const auto data = [&](const char *c) { return dataTexto(r[QString::fromLatin1(c)]); };
-        const QString nr = r[QStringLiteral("nrbco")].text();
-        QStringList row{data("dvencto"), r[QStringLiteral("codigo")].text(), r[QStringLiteral("lindigbco")].text(),
-                        r[QStringLiteral("barrabco")].text(),
-                        nr.size() == 9 ? nr.left(8) + QStringLiteral("-") + nr.right(1) : nr,
-                        r[QStringLiteral("vtotal")].text(), data("demis"), r[QStringLiteral("codap")].text(),
-                        r[QStringLiteral("obs1")].text(), r[QStringLiteral("obs2")].text()};
-        for (int i = 0; i < 10; ++i) {
-            const QString item = r[QStringLiteral("item%1").arg(i)].text();
-            row << item
-                << (item.isEmpty() ? QString()
-                                   : eventos.value(item) + QStringLiteral(" ") + r[QStringLiteral("comp%1").arg(i)].text())
-                << r[QStringLiteral("refer%1").arg(i)].text() << r[QStringLiteral("valor%1").arg(i)].text();
-        }
-        for (const char *c : {"nome", "enderecopro", "numeropro", "complementopro", "bairropro", "cidadepro", "ufpro"})
-            row << r[QString::fromLatin1(c)].text();
-        const QString cep = r[QStringLiteral("ceppro")].text(), cpf = r[QStringLiteral("cpfpro")].text();
-        row << (cep == u"_____-___" ? QString() : cep) << (cpf == u"___.___.___-__" ? QString() : cpf)
-            << r[QStringLiteral("codinterno")].text();
-        return row;
-    });
+        d.instrucoes[n] = t.instrucoes[n];
+    return imprimeBoletosDoFiltro(cn_, filtro, d);
 }
 
 void frmBcoDiversos::cmdImprimir_Click()
