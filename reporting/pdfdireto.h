@@ -1,0 +1,12 @@
+#pragma once
+// The PDF road of writePdf: the laid-out pages written straight into a PDF by
+// libharu, one text operator per text, the TrueType fonts embedded as subsets
+// (WinAnsi encoding, so the text reads back). A thousand slips take a fraction
+// of what QPainter on QPdfWriter takes, which positions every glyph apart.
+//
+// It declines (false, nothing written) what it cannot write as the preview
+// shows it: a character outside WinAnsi, a font fontconfig does not give as a
+// .ttf file, a text over 4,096 characters. writePdf then takes QPdfWriter.
+#include "reporting/renderer.h"
+
+bool escrevePdfDireto(const ReportDocument &doc, const QString &path);
