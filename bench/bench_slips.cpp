@@ -16,6 +16,7 @@
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/session.h"
+#include "reporting/pdfdireto.h"
 
 #include <QFile>
 #include <QFileInfo>

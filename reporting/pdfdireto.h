@@ -9,4 +9,12 @@
 // .ttf file, a text over 4,096 characters. writePdf then takes QPdfWriter.
 #include "reporting/renderer.h"
 
+#include <QFont>
+
 bool escrevePdfDireto(const ReportDocument &doc, const QString &path);
+
+// The QPdfWriter road alone: the pages painted as the printer gets them
+// (writePdf takes it when escrevePdfDireto declines).
+bool writePdfQt(const ReportDocument &doc, const QString &path, QString *error = nullptr);
+// The font a template's FontSpec stands for, sized in hundredths of a millimetre.
+QFont reportFont(const FontSpec &spec);

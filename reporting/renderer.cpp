@@ -743,6 +743,8 @@ bool writePdfQt(const ReportDocument &doc, const QString &path, QString *error)
     return true;
 }
 
+// Straight through libharu (reporting/pdfdireto.h); QPdfWriter when that
+// road declines the document.
 bool writePdf(const ReportDocument &doc, const QString &path, QString *error)
 {
     if (escrevePdfDireto(doc, path))

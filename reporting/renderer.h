@@ -5,7 +5,6 @@
 // a preview repaints the same pages at every zoom.
 #include "reporting/template.h"
 
-#include <QFont>
 #include <QHash>
 #include <QPageSize>
 #include <QPagedPaintDevice>
@@ -16,8 +15,7 @@
 #include <vector>
 
 // The data of one print: text columns in order, one list of cells per row, the
-// named formulas and the title. A column named "@Name" is the formula Name
-// row by row (a bank slip's own number), in place of the print-wide one.
+// named formulas and the title.
 struct ReportData {
     QStringList columns;
     std::vector<QStringList> rows;
@@ -74,14 +72,8 @@ void paintPage(QPainter &painter, const ReportDocument &doc, int page, double do
 // Sets the device's page size and paints every page. False when the device
 // could not be opened for painting.
 bool printReport(const ReportDocument &doc, QPagedPaintDevice &device);
-// Writes the document as a PDF file with its fonts embedded: straight through
-// libharu (reporting/pdfdireto.h), or through QPdfWriter when that road
-// declines the document.
+// Writes the document as a PDF file with its fonts embedded.
 bool writePdf(const ReportDocument &doc, const QString &path, QString *error = nullptr);
-// The QPdfWriter road alone: the pages painted as the printer gets them.
-bool writePdfQt(const ReportDocument &doc, const QString &path, QString *error = nullptr);
-// The font a template's FontSpec stands for, sized in hundredths of a millimetre.
-QFont reportFont(const FontSpec &spec);
 
 // A value through a template's picture: "trim", a date picture ("dd/mm/yyyy"),
 // a text picture ("@@@") or a number picture ("#,###,##0.00"). Empty stays empty.
