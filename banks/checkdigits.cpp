@@ -1,6 +1,7 @@
 #include "banks/checkdigits.h"
 
 #include "core/conversions.h"
+#include "core/installation.h"
 
 #include <array>
 #include <limits>
@@ -143,16 +144,21 @@ QString Modulo11Direto(const QString &digits)
     return QString::number(r == 10 ? 0 : r);
 }
 
-int16_t Fator_Vencimento(const QDate &vencimento)
+int16_t Fator_Vencimento(const QDate &vencimento, bool ciclico)
 {
     if (!vencimento.isValid())
         throw RunFailure(QStringLiteral("Tipo incompatível"));
     static const int base = dateToDays(QDate(1997, 10, 7));
-    const int days = dateToDays(vencimento) - base;
+    int days = dateToDays(vencimento) - base;
+    // 22/02/2025 is day 10000: there the banks' factor went back to 1000.
+    if (ciclico && days >= 10000)
+        days = 1000 + (days - 1000) % 9000;
     if (days > std::numeric_limits<int16_t>::max() || days < std::numeric_limits<int16_t>::min())
         throw RunFailure(QStringLiteral("Estouro"));
     return int16_t(days);
 }
+
+int16_t Fator_Vencimento(const QDate &vencimento) { return Fator_Vencimento(vencimento, fatorVencimentoCiclico); }
 
 bool cabeNoCodigoDeBarras(Money valor)
 {

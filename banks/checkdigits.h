@@ -27,6 +27,10 @@ QString Modulo11Direto(const QString &digits);      // 2..7; remainder 10 gives 
 // Days from 7 October 1997 to the due date. No wrap: below 1000 or above 9999
 // the factor simply has fewer or more digits. An invalid date, or a factor
 // outside 16 bits, stops the run (RunFailure).
+// With `ciclico` (the installation's fatorVencimentoCiclico), a due date from
+// 22/02/2025 on gets 1000 + (days - 1000) mod 9000: four digits again.
+int16_t Fator_Vencimento(const QDate &vencimento, bool ciclico);
+// The factor under the installation's setting (fatorVencimentoCiclico).
 int16_t Fator_Vencimento(const QDate &vencimento);
 
 // The value in centavos as ten digits ("0000123450" for R$ 1.234,50). A value

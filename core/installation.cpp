@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QSettings>
 
+bool fatorVencimentoCiclico = false;
+
 namespace {
 const QString kGroup = QStringLiteral("Instalacao");
 }
@@ -22,6 +24,7 @@ bool readInstallationSettings(const QString &sysPath, InstallationSettings &out)
     out.nomeCliente = ini.value(QStringLiteral("nomeCliente")).toString();
     out.adminLogin = ini.value(QStringLiteral("adminLogin")).toString();
     out.adminSenha = ini.value(QStringLiteral("adminSenha")).toString();
+    out.fatorCiclico = ini.value(QStringLiteral("fatorVencimentoCiclico"), false).toBool();
     return true;
 }
 
@@ -32,6 +35,10 @@ bool writeInstallationSettings(const QString &sysPath, const InstallationSetting
     ini.setValue(QStringLiteral("nomeCliente"), settings.nomeCliente.trimmed());
     ini.setValue(QStringLiteral("adminLogin"), settings.adminLogin);
     ini.setValue(QStringLiteral("adminSenha"), settings.adminSenha);
+    // Only ever switched on here: the installation form, which does not show
+    // it, leaves a setting made by hand as it stands.
+    if (settings.fatorCiclico)
+        ini.setValue(QStringLiteral("fatorVencimentoCiclico"), true);
     ini.endGroup();
     ini.sync();
     return ini.status() == QSettings::NoError;
@@ -44,6 +51,7 @@ void applyInstallationSettings(const InstallationSettings &settings)
     session.nomeCliente = padNomeCliente(settings.nomeCliente);
     session.adminLogin = settings.adminLogin;
     session.adminSenha = settings.adminSenha;
+    fatorVencimentoCiclico = settings.fatorCiclico;
 }
 
 void VerificaArquivos(const QString &sysPath)

@@ -4,15 +4,22 @@
 // making of a condominium's file from the template.
 #include <QString>
 
-// nomeCliente, adminLogin and adminSenha, kept in Habitarium.ini beside the
+// nomeCliente, adminLogin, adminSenha and fatorVencimentoCiclico, kept in Habitarium.ini beside the
 // executable. adminSenha is already scrambled by EmbaralhaAdm.
 struct InstallationSettings {
     QString nomeCliente;
     QString adminLogin;
     QString adminSenha;
+    // The due-date factor that restarts at 1000 from 22/02/2025 (docs/banks.md).
+    bool fatorCiclico = false;
 };
 
 inline const QString kSettingsFile = QStringLiteral("Habitarium.ini");
+
+// The installation's fatorVencimentoCiclico, set at start by
+// applyInstallationSettings: the due-date factor restarts at 1000 from
+// 22/02/2025 (banks/checkdigits.h). Off by default.
+extern bool fatorVencimentoCiclico;
 
 // False when sysPath has no Habitarium.ini (the first run of an installation).
 bool readInstallationSettings(const QString &sysPath, InstallationSettings &out);

@@ -4,10 +4,14 @@
 
 #include "core/conversions.h"
 #include "reporting/barcode.h"
+#include "reporting/pdfdireto.h"
 
 #include <QDate>
 #include <QFile>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QRawFont>
+#include <QTextLayout>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSet>
@@ -166,6 +170,11 @@ QString Layout::resolve(const TextPart &part, int group)
         value = cell(part.name);
         break;
     case TextPart::Formula: {
+        // A column named "@Name" gives the formula a value of each row.
+        if (const auto col = columns_.constFind(u'@' + part.name.toLower()); col != columns_.constEnd()) {
+            value = row_ && *col < row_->size() ? row_->at(*col) : QString();
+            break;
+        }
         const auto it = formulas_.constFind(part.name.toLower());
         if (it == formulas_.constEnd())
             note(QStringLiteral("Fórmula sem valor: %1").arg(part.name));
@@ -572,16 +581,64 @@ qsizetype visibleLength(const QString &text, const QFontMetricsF &fm, const QRec
     const double bound = perLine * lines;
     return bound < double(text.size()) ? qsizetype(bound) : text.size();
 }
+// A one-line text laid out once: its glyph runs, blanks left out (they draw
+// nothing and would cost a positioning command each in a PDF), and its size.
+// The same labels and statement lines come back on every page.
+struct Glifos {
+    QList<QGlyphRun> runs;
+    double width = 0, height = 0;
+};
+
+const Glifos &glifos(const QFont &font, const QString &fontKey, const QString &text)
+{
+    thread_local QHash<QString, Glifos> cache;
+    const QString key = fontKey + QChar(0) + text;
+    if (auto it = cache.constFind(key); it != cache.constEnd())
+        return *it;
+    if (cache.size() > 20000)
+        cache.clear();
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(1e9);
+    layout.endLayout();
+    Glifos g;
+    g.width = line.naturalTextWidth();
+    g.height = line.height();
+    for (QGlyphRun run : layout.glyphRuns()) {
+        const QList<quint32> blank = run.rawFont().glyphIndexesForString(QStringLiteral(" "));
+        const QList<quint32> idx = run.glyphIndexes();
+        const QList<QPointF> pos = run.positions();
+        QList<quint32> keepIdx;
+        QList<QPointF> keepPos;
+        for (qsizetype i = 0; i < idx.size(); ++i)
+            if (blank.isEmpty() || idx[i] != blank[0]) {
+                keepIdx << idx[i];
+                keepPos << pos[i];
+            }
+        if (keepIdx.isEmpty())
+            continue;
+        run.setGlyphIndexes(keepIdx);
+        run.setPositions(keepPos);
+        g.runs << run;
+    }
+    return *cache.insert(key, std::move(g));
+}
 } // namespace
+
+QFont reportFont(const FontSpec &spec) { return makeFont(spec); }
 
 void paintPage(QPainter &painter, const ReportDocument &doc, int index, double dotsPerMm)
 {
     if (index < 0 || index >= doc.pageCount())
         return;
     std::vector<QFont> fonts;
+    QStringList fontKeys;
     fonts.reserve(doc.fonts.size());
-    for (const FontSpec &f : doc.fonts)
+    for (const FontSpec &f : doc.fonts) {
         fonts.push_back(makeFont(f));
+        fontKeys << fonts.back().key();
+    }
     const QString pages = QString::number(doc.pageCount());
     auto u = [](const QRectF &r) { return QRectF(r.x() * kUnits, r.y() * kUnits, r.width() * kUnits, r.height() * kUnits); };
 
@@ -606,6 +663,29 @@ void paintPage(QPainter &painter, const ReportDocument &doc, int index, double d
             const double pad = op.box ? 0.8 * kUnits : 0;
             const QRectF box = r.adjusted(pad, 0, -pad, 0);
             const bool wrap = op.flags & Qt::TextWordWrap;
+            if (!wrap && text.size() < 4096 && !text.contains(u'\n') && !text.contains(QChar::LineSeparator)) {
+                const Glifos &g = glifos(fonts[size_t(op.font)], fontKeys[op.font], text);
+                double x = box.left(), y = box.top();
+                if (op.flags & Qt::AlignRight)
+                    x = box.right() - g.width;
+                else if (op.flags & Qt::AlignHCenter)
+                    x = box.left() + (box.width() - g.width) / 2;
+                if (op.flags & Qt::AlignVCenter)
+                    y = box.top() + (box.height() - g.height) / 2;
+                else if (op.flags & Qt::AlignBottom)
+                    y = box.bottom() - g.height;
+                const bool clip = !(op.flags & Qt::TextDontClip)
+                                  && (g.width > box.width() || g.height > box.height() || x < box.left());
+                if (clip) {
+                    painter.save();
+                    painter.setClipRect(box, Qt::IntersectClip);
+                }
+                for (const QGlyphRun &run : g.runs)
+                    painter.drawGlyphRun(QPointF(x, y), run);
+                if (clip)
+                    painter.restore();
+                break;
+            }
             if (wrap || (op.flags & Qt::AlignLeft))
                 text.truncate(visibleLength(text, QFontMetricsF(painter.font()), box, doc.pageWidth() * kUnits,
                                             doc.pageHeight() * kUnits, wrap));
@@ -652,7 +732,7 @@ bool printReport(const ReportDocument &doc, QPagedPaintDevice &device)
     return painter.end();
 }
 
-bool writePdf(const ReportDocument &doc, const QString &path, QString *error)
+bool writePdfQt(const ReportDocument &doc, const QString &path, QString *error)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
@@ -670,4 +750,13 @@ bool writePdf(const ReportDocument &doc, const QString &path, QString *error)
         return false;
     }
     return true;
+}
+
+// Straight through libharu (reporting/pdfdireto.h); QPdfWriter when that
+// road declines the document.
+bool writePdf(const ReportDocument &doc, const QString &path, QString *error)
+{
+    if (escrevePdfDireto(doc, path))
+        return true;
+    return writePdfQt(doc, path, error);
 }

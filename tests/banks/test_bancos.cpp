@@ -2,6 +2,7 @@
 
 #include "banks/checkdigits.h"
 #include "core/conversions.h"
+#include "core/installation.h"
 #include "slipcheck.h"
 
 #include <QRandomGenerator>
@@ -191,5 +192,29 @@ TEST(Bancos, EverySlipFollowsTheLayout)
             if (HasFailure())
                 FAIL() << c.banco << " " << codigo.toStdString();
         }
+    }
+}
+
+// The installation's cyclic factor: off, the factor keeps growing past 9999;
+// on, from 22/02/2025 it restarts at 1000 and the 44-digit code reads back.
+TEST(Bancos, FatorCiclicoPorData)
+{
+    struct Case {
+        QDate vencto;
+        int off, on;
+    };
+    const std::vector<Case> cases{{QDate(2008, 3, 10), 3807, 3807},
+                                  {QDate(2025, 2, 21), 9999, 9999},
+                                  {QDate(2025, 2, 22), 10000, 1000},
+                                  {QDate(2026, 11, 23), 10639, 1639}};
+    const ParametrosBanco p = parametros("341", "0057", "98765-4", "", "175");
+    for (const Case &c : cases) {
+        EXPECT_EQ(Fator_Vencimento(c.vencto, false), c.off) << c.vencto.toString().toStdString();
+        EXPECT_EQ(Fator_Vencimento(c.vencto, true), c.on) << c.vencto.toString().toStdString();
+        fatorVencimentoCiclico = true;
+        const Boleto b = calculaBoleto(p.banco, ReciboBanco{QStringLiteral("000123"), Money::fromUnits(5573700), c.vencto}, p);
+        fatorVencimentoCiclico = false;
+        expectSlipLayout(b.barra, b.linha, p.banco, QString::number(c.on), valorBarra(Money::fromUnits(5573700)),
+                         b.campoLivre);
     }
 }
