@@ -9,6 +9,14 @@
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
+#include "reporting/forms/frmMoradPa.h"
+#include "reporting/forms/frmNormal.h"
+#include "reporting/forms/frmPadrao.h"
+#include "reporting/forms/frmRAptos.h"
+#include "reporting/forms/frmRTelefonica.h"
+#include "reporting/forms/frmRelEnd.h"
+#include "reporting/forms/frmRelatArq.h"
+#include "reporting/forms/frmVecPa.h"
 
 void registerAllForms()
 {
@@ -21,6 +29,14 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmRAptos>(FormKind::Child);
+    registerForm<frmRelEnd>(FormKind::Child);
+    registerForm<frmRTelefonica>(FormKind::Child);
+    registerForm<frmMoradPa>(FormKind::Child);
+    registerForm<frmVecPa>(FormKind::Child);
+    registerForm<frmNormal>(FormKind::Child);
+    registerForm<frmPadrao>(FormKind::Child);
+    registerForm<frmRelatArq>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -44,9 +60,6 @@ QStringList formsToCome()
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks
         QStringLiteral("frmBcoDiversos"), QStringLiteral("frmBoleto"), QStringLiteral("frmCriaTxt"),
-        // Reporting
-        QStringLiteral("frmRelEnd"), QStringLiteral("frmRAptos"), QStringLiteral("frmRTelefonica"),
-        QStringLiteral("frmRelatArq"), QStringLiteral("frmNormal"), QStringLiteral("frmPadrao"),
         // Maintenance
         QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
     };
