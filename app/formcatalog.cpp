@@ -3,6 +3,7 @@
 #include "billing/forms/frmAjTxVcto.h"
 #include "billing/forms/frmParametro.h"
 #include "core/forms/formcatalog.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmPesqGeral.h"
@@ -31,6 +32,7 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmAptos>(FormKind::Child);
     registerForm<frmRAptos>(FormKind::Child);
     registerForm<frmRelEnd>(FormKind::Child);
     registerForm<frmRTelefonica>(FormKind::Child);
@@ -50,7 +52,7 @@ QStringList formsToCome()
 {
     return {
         // Registers
-        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
+        QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
         QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
         // Accounting
         QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
