@@ -26,6 +26,14 @@
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
+#include "reporting/forms/frmMoradPa.h"
+#include "reporting/forms/frmNormal.h"
+#include "reporting/forms/frmPadrao.h"
+#include "reporting/forms/frmRAptos.h"
+#include "reporting/forms/frmRTelefonica.h"
+#include "reporting/forms/frmRelEnd.h"
+#include "reporting/forms/frmRelatArq.h"
+#include "reporting/forms/frmVecPa.h"
 
 void registerAllForms()
 {
@@ -55,6 +63,14 @@ void registerAllForms()
     registerForm<frmFiltroBco>(FormKind::Child);
     registerForm<frmFiltroImpBoleto>(FormKind::Child);
     registerForm<frmAptos>(FormKind::Child);
+    registerForm<frmRAptos>(FormKind::Child);
+    registerForm<frmRelEnd>(FormKind::Child);
+    registerForm<frmRTelefonica>(FormKind::Child);
+    registerForm<frmMoradPa>(FormKind::Child);
+    registerForm<frmVecPa>(FormKind::Child);
+    registerForm<frmNormal>(FormKind::Child);
+    registerForm<frmPadrao>(FormKind::Child);
+    registerForm<frmRelatArq>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -75,9 +91,6 @@ QStringList formsToCome()
         QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
-        // Reporting
-        QStringLiteral("frmRelEnd"), QStringLiteral("frmRAptos"), QStringLiteral("frmRTelefonica"),
-        QStringLiteral("frmRelatArq"), QStringLiteral("frmNormal"), QStringLiteral("frmPadrao"),
         // Maintenance
         QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
     };

@@ -6,6 +6,7 @@
 # what it prints, with exit status 0. A .hd file may hold several runs on the
 # same installation, separated by lines "#---"; after each run's output comes
 # a line "exit N" with its status.
+# A line "# units: N" makes the demo with N units (mkdemo's default when absent).
 # A line "# args: ..." in the script gives habdrive's options; @PDF@ stands for
 # a fresh folder for --pdf, and is written in place of that folder's path in
 # the output. Every PDF a REPORT line names must exist and be a PDF, and so
@@ -44,7 +45,11 @@ else()
   file(READ "${SCRIPT}" script_text)
 endif()
 
-execute_process(COMMAND "${MKDEMO}" "${WORK}/demo" RESULT_VARIABLE rc OUTPUT_QUIET ERROR_VARIABLE err)
+set(units "")
+if(script_text MATCHES "(^|\n)# units: *([0-9]+)")
+  set(units "${CMAKE_MATCH_2}")
+endif()
+execute_process(COMMAND "${MKDEMO}" "${WORK}/demo" ${units} RESULT_VARIABLE rc OUTPUT_QUIET ERROR_VARIABLE err)
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "mkdemo failed (${rc}): ${err}")
 endif()

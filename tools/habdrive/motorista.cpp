@@ -1,6 +1,7 @@
 #include "motorista.h"
 
 #include "core/datastore.h"
+#include "core/forms/formcatalog.h"
 #include "core/forms/mdiHabitarium.h"
 #include "core/prompter.h"
 #include "core/widgets/escolhaarquivo.h"
@@ -489,6 +490,15 @@ void Motorista::roda(const Comando &c)
         }
         ativa(mdi);
         acao->trigger();
+    } else if (n == QLatin1String("open")) {
+        // A form of the catalog that no menu entry opens, as the program opens forms.
+        if (!mdi)
+            erro(QStringLiteral("a janela principal ainda não está aberta"));
+        if (!findForm(a[0]))
+            erro(QStringLiteral("não há o form %1 no catálogo").arg(a[0]));
+        confereModal(nullptr);
+        ativa(mdi);
+        mdi->abreForm(a[0]);
     } else if (n == QLatin1String("toolbar")) {
         if (!mdi)
             erro(QStringLiteral("a janela principal ainda não está aberta"));
