@@ -1,6 +1,8 @@
 #include "app/formcatalog.h"
 
+#include "billing/forms/frmAjTxVcto.h"
 #include "billing/forms/frmFiltro.h"
+#include "billing/forms/frmParametro.h"
 #include "billing/forms/frmPesqfin.h"
 #include "billing/forms/frmPesqRec.h"
 #include "billing/forms/frmPesqRecSel.h"
@@ -36,6 +38,8 @@ void registerAllForms()
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
+    registerForm<frmParametro>(FormKind::Dialog);
+    registerForm<frmAjTxVcto>(FormKind::Child);
 }
 
 QStringList formsToCome()
@@ -50,8 +54,7 @@ QStringList formsToCome()
         QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
-        QStringLiteral("frmAjTxVcto"),
-        QStringLiteral("frmParametro"), QStringLiteral("frmCarta_Cob"),
+        QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks
