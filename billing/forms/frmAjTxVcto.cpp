@@ -18,6 +18,7 @@ constexpr int kPrimeiraDigitada = 3;
 frmAjTxVcto::frmAjTxVcto(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmAjTxVcto>())
 {
     ui_->setupUi(this);
+    layout()->setSizeConstraint(QLayout::SetMinimumSize);  // the grid of types shows its eight columns
     QTableWidget *g = ui_->tdgAjuste;
     g->setColumnCount(kColunas);
     g->setHorizontalHeaderLabels({QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Rateio"),

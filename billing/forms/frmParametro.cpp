@@ -39,6 +39,7 @@ T *filho(QWidget *form, const QString &nome)
 frmParametro::frmParametro(QWidget *parent) : QDialog(parent), ui_(std::make_unique<Ui::frmParametro>())
 {
     ui_->setupUi(this);
+    layout()->setSizeConstraint(QLayout::SetMinimumSize);  // never narrower than its fields
     ui_->tdbVencto->setFormato(DateField::MesAno);
     ui_->cmbOrdem->addItems({QStringLiteral("Alfabética"), QStringLiteral("Numérica"), QStringLiteral("Seletiva")});
     ui_->cmbTsel->addItems(
