@@ -9,6 +9,7 @@
 #include "billing/forms/frmRecBaixa.h"
 #include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmPesqGeral.h"
@@ -29,6 +30,7 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmAptos>(FormKind::Child);
     registerForm<frmFiltro>(FormKind::Dialog);
     registerForm<frmPesqfin>(FormKind::Child);
     registerForm<frmPesqRec>(FormKind::Dialog);
@@ -46,7 +48,7 @@ QStringList formsToCome()
 {
     return {
         // Registers
-        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
+        QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
         QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
         // Accounting
         QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
