@@ -1,5 +1,12 @@
 #include "app/formcatalog.h"
 
+#include "banks/forms/filtrobanco.h"
+#include "banks/forms/frmBcoDiversos.h"
+#include "banks/forms/frmBcoSantander.h"
+#include "banks/forms/frmBoleto.h"
+#include "banks/forms/frmBoleto2.h"
+#include "banks/forms/frmCriaTxt.h"
+#include "banks/forms/frmGAbre_Arq.h"
 #include "billing/forms/frmAjTxVcto.h"
 #include "billing/forms/frmFiltro.h"
 #include "billing/forms/frmParametro.h"
@@ -30,6 +37,15 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmBcoDiversos>(FormKind::Child);
+    registerForm<frmCriaTxt>(FormKind::Child);
+    registerForm<frmGAbre_Arq>(FormKind::Dialog);
+    registerForm<frmBoleto>(FormKind::Child);
+    // Opened by no menu entry: in the catalog for the tour.
+    registerForm<frmBcoSantander>(FormKind::Child);
+    registerForm<frmBoleto2>(FormKind::Child);
+    registerForm<frmFiltroBco>(FormKind::Child);
+    registerForm<frmFiltroImpBoleto>(FormKind::Child);
     registerForm<frmAptos>(FormKind::Child);
     registerForm<frmFiltro>(FormKind::Dialog);
     registerForm<frmPesqfin>(FormKind::Child);
@@ -59,8 +75,6 @@ QStringList formsToCome()
         QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
-        // Banks
-        QStringLiteral("frmBcoDiversos"), QStringLiteral("frmBoleto"), QStringLiteral("frmCriaTxt"),
         // Reporting
         QStringLiteral("frmRelEnd"), QStringLiteral("frmRAptos"), QStringLiteral("frmRTelefonica"),
         QStringLiteral("frmRelatArq"), QStringLiteral("frmNormal"), QStringLiteral("frmPadrao"),
