@@ -8,7 +8,13 @@
 #include "banks/forms/frmCriaTxt.h"
 #include "banks/forms/frmGAbre_Arq.h"
 #include "billing/forms/frmAjTxVcto.h"
+#include "billing/forms/frmFiltro.h"
 #include "billing/forms/frmParametro.h"
+#include "billing/forms/frmPesqfin.h"
+#include "billing/forms/frmPesqRec.h"
+#include "billing/forms/frmPesqRecSel.h"
+#include "billing/forms/frmRecBaixa.h"
+#include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
 #include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
@@ -71,6 +77,12 @@ void registerAllForms()
     registerForm<frmNormal>(FormKind::Child);
     registerForm<frmPadrao>(FormKind::Child);
     registerForm<frmRelatArq>(FormKind::Child);
+    registerForm<frmFiltro>(FormKind::Dialog);
+    registerForm<frmPesqfin>(FormKind::Child);
+    registerForm<frmPesqRec>(FormKind::Dialog);
+    registerForm<frmPesqRecSel>(FormKind::Dialog);
+    registerForm<frmRecBaixa>(FormKind::Child);
+    registerForm<frmSpool>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -87,8 +99,7 @@ QStringList formsToCome()
         QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
-        QStringLiteral("frmPesqfin"), QStringLiteral("frmRecBaixa"),
-        QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
+        QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Maintenance

@@ -3,6 +3,7 @@
 // each menu, and of every form of the catalog. Forms added to the catalog are
 // photographed without any change here.
 #include "app/formcatalog.h"
+#include "billing/filtro.h"
 #include "core/anotaerro.h"
 #include "core/forms/formcatalog.h"
 #include "core/forms/mdiHabitarium.h"
@@ -127,6 +128,13 @@ int main(int argc, char **argv)
         // The residents of a unit are shown for the demo's first unit.
         session.valorPesq = entry.name == QLatin1String("frmMoradores2") ? QStringLiteral("010101")
                                                                           : QString::number(session.codUsuario);
+        // The pick lists of receipts and units take their statements from the session.
+        if (entry.name == QLatin1String("frmPesqRec")) {
+            session.tabPesq = kContaPadrao;
+            session.sql = kListaPadrao;
+        } else if (entry.name == QLatin1String("frmPesqRecSel")) {
+            session.sql = QStringLiteral("SELECT codigo,nome,nrecibo,nemis,demis FROM Aptos ORDER BY codigo");
+        }
         try {
             switch (entry.kind) {
             case FormKind::Child: {
