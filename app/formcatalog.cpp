@@ -1,7 +1,13 @@
 #include "app/formcatalog.h"
 
 #include "billing/forms/frmAjTxVcto.h"
+#include "billing/forms/frmFiltro.h"
 #include "billing/forms/frmParametro.h"
+#include "billing/forms/frmPesqfin.h"
+#include "billing/forms/frmPesqRec.h"
+#include "billing/forms/frmPesqRecSel.h"
+#include "billing/forms/frmRecBaixa.h"
+#include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
@@ -23,6 +29,12 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmFiltro>(FormKind::Dialog);
+    registerForm<frmPesqfin>(FormKind::Child);
+    registerForm<frmPesqRec>(FormKind::Dialog);
+    registerForm<frmPesqRecSel>(FormKind::Dialog);
+    registerForm<frmRecBaixa>(FormKind::Child);
+    registerForm<frmSpool>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -42,8 +54,7 @@ QStringList formsToCome()
         QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
-        QStringLiteral("frmPesqfin"), QStringLiteral("frmRecBaixa"),
-        QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
+        QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks

@@ -34,7 +34,17 @@ Baixa baixaRecibo(Connection &con, const QString &numero, const QString &origina
     Baixa b;
     if (drecbto == original)
         return b;
-    if (MsgBox(QStringLiteral("Deseja Realmente Baixar Este Recibo  ?"), vbYesNo + vbQuestion, kAtencao) != vbYes) {
+    // A receipt settled already says by whom and when, and is settled again
+    // only on a Yes that is not the default answer.
+    Recordset atual = con.Execute(QStringLiteral("SELECT situacao, drecbto, Usubx FROM Recibos WHERE codigo = '") + numero
+                                  + QStringLiteral("'"));
+    const bool baixado = !atual.eof() && atual[QStringLiteral("situacao")].text() == QLatin1String("B");
+    const bool pergunta = baixado && drecbto != kEmptyDate
+        ? MsgBox(kMsgJaBaixado.arg(textoData(atual[QStringLiteral("drecbto")].toDate()),
+                                   atual[QStringLiteral("Usubx")].text()),
+                 vbYesNo + vbExclamation + vbDefaultButton2, kAtencao) == vbYes
+        : MsgBox(QStringLiteral("Deseja Realmente Baixar Este Recibo  ?"), vbYesNo + vbQuestion, kAtencao) == vbYes;
+    if (!pergunta) {
         b.resultado = ResultadoBaixa::Restaurar;
         return b;
     }
@@ -98,13 +108,16 @@ QString sqlAltera(const ReciboEditado &r, const std::vector<ItemRecibo> &itens, 
     return s;
 }
 
-Alteracao alteraRecibo(Connection &con, const ReciboEditado &r, const QString &usuario, int codUsuario)
+Alteracao alteraRecibo(Connection &con, const ReciboEditado &r, const QString &usuario, int codUsuario,
+                       bool silenciosa)
 {
     Alteracao a;
-    if (MsgBox(QStringLiteral("Deseja Realmente Alterar Este Registro ?"), vbYesNo + vbQuestion, kAtencao) != vbYes)
+    if (!silenciosa
+        && MsgBox(QStringLiteral("Deseja Realmente Alterar Este Registro ?"), vbYesNo + vbQuestion, kAtencao) != vbYes)
         return a;
     if (!temDireito(QStringLiteral("Cfalt"), usuario)) {
-        MsgBox(kMsgAlteraSemDireito, vbExclamation, kAtencao);
+        if (!silenciosa)
+            MsgBox(kMsgAlteraSemDireito, vbExclamation, kAtencao);
         return a;
     }
     const std::vector<ItemRecibo> itens = ajustaGrade(r.linhas);

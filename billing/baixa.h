@@ -16,6 +16,8 @@ inline const QString kMsgBaixaSemDireito = QStringLiteral("Usuário não autoriz
 inline const QString kMsgAlteraSemDireito = QStringLiteral("Usuário não autorizado a alterar recibos !");
 inline const QString kMsgExcluiSemDireito = QStringLiteral("Usuário não autorizado a excluir recibos !");
 inline const QString kMsgBaixaSemData = QStringLiteral("Para baixar é necessário uma Data de Recebimento !");
+inline const QString kMsgJaBaixado =
+    QStringLiteral("Este recibo já foi baixado em %1 por %2 ! Deseja baixá-lo novamente com a nova data ?");
 inline const QString kMsgBaixaSemCobranca = QStringLiteral("Para baixar tem de ter um local de cobrança !");
 
 QString sqlBaixa(const QString &numero, const QString &drecbto, const QString &usuario, qint32 valido);
@@ -37,7 +39,9 @@ struct Baixa {
 
 // Lost focus of tdbRecto. `original` is the date shown when the receipt was
 // opened, `drecbto` the field's text now ("dd/mm/yyyy" or "__/__/____").
-// Settling writes situacao, drecbto, Usubx and valido, and nothing else.
+// Settling writes situacao, drecbto, Usubx and valido, and nothing else. A
+// receipt settled already is settled again with a new date only on a Yes to
+// kMsgJaBaixado, whose default is No.
 Baixa baixaRecibo(Connection &con, const QString &numero, const QString &original, const QString &drecbto,
                   const QString &tipcob, const QString &usuario);
 
@@ -62,8 +66,11 @@ QString sqlAltera(const ReciboEditado &r, const std::vector<ItemRecibo> &itens, 
 
 // cmdGravar: asks, checks cfalt, adjusts the grid, totals, the faults, then the
 // statement. When the date received was cleared and the user's code is 731,
-// the settlement is undone by a second statement.
-Alteracao alteraRecibo(Connection &con, const ReciboEditado &r, const QString &usuario, int codUsuario);
+// the settlement is undone by a second statement. `silenciosa` is the save
+// before a copy is printed: no question, and without cfalt nothing is saved
+// and nothing said.
+Alteracao alteraRecibo(Connection &con, const ReciboEditado &r, const QString &usuario, int codUsuario,
+                       bool silenciosa = false);
 
 // cmdApagar: asks, checks cfexc, deletes. Apartment marks and Fnreci stay.
 bool excluiRecibo(Connection &con, const QString &numero, const QString &usuario);

@@ -83,6 +83,13 @@ TEST(Baixa, SettlingWritesOnlyTheStamp)
     EXPECT_EQ(c.dinheiro(kRecibo, "vtotal"), reais(370));
     EXPECT_EQ(c.valor(kRecibo, "nrbco"), QStringLiteral("12345"));
     EXPECT_EQ(c.valor(kRecibo, "codbco"), QStringLiteral("341"));
+
+    // Settled already: a new date says by whom and when, and No keeps it.
+    prompt.answer(vbNo, kMsgJaBaixado.arg(QStringLiteral("15/03/2003"), QStringLiteral("Caixa")));
+    EXPECT_EQ(baixaRecibo(c.con, QStringLiteral("000101"), QStringLiteral("15/03/2003"), QStringLiteral("20/03/2003"),
+                          QStringLiteral("1"), QStringLiteral("Caixa")).resultado,
+              ResultadoBaixa::Restaurar);
+    EXPECT_EQ(c.valor(kRecibo, "drecbto"), QStringLiteral("15/03/2003"));
 }
 
 TEST(Baixa, SettleButNotAlterRights)

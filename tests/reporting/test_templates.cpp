@@ -126,7 +126,7 @@ TEST(ShippedTemplates, ReceiptPrintsTwoCopiesWithTheAmountInWords)
     row << "Taxa de condomínio" << "Fundo de reserva" << "" << "" << "" << "" << "" << "" << "" << "";
     row << "03/2008" << "03/2008" << "0" << "0" << "0" << "0" << "0" << "0" << "0" << "0";
     row << "1450" << "45,5" << "0" << "0" << "0" << "0" << "0" << "0" << "0" << "0";
-    row << "1495,5" << "um mil, quatrocentos e noventa e cinco reais e cinquenta centavos" << "" << "Obs um" << "";
+    row << "1495,5" << "(UM MIL QUATROCENTOS E NOVENTA E CINCO" << "REAIS E CINQUENTA CENTAVOS) *****" << "Obs um" << "";
     d.rows = {row};
     d.setFormula("uNempat", "Edifício Solar");
     d.setFormula("gClient", QStringLiteral("Tevora").leftJustified(40, u' '));
@@ -142,7 +142,8 @@ TEST(ShippedTemplates, ReceiptPrintsTwoCopiesWithTheAmountInWords)
     EXPECT_EQ(t.count(QStringLiteral("RECIBO Nº 004512")), 2);
     EXPECT_EQ(t.count(QStringLiteral("1.450,00")), 2);
     EXPECT_EQ(t.count(QStringLiteral("1.495,50")), 2);
-    EXPECT_EQ(t.count(QStringLiteral("(um mil, quatrocentos e noventa e cinco reais e cinquenta centavos")), 2);
+    EXPECT_EQ(t.count(QStringLiteral("(UM MIL QUATROCENTOS E NOVENTA E CINCO")), 2);
+    EXPECT_EQ(t.count(QStringLiteral("CENTAVOS) *****")), 2);
     EXPECT_EQ(t.count(QStringLiteral("Mantenha seus dados atualizados.")), 2);
     EXPECT_TRUE(t.contains(QStringLiteral("1ª via - Condômino")));
     EXPECT_TRUE(t.contains(QStringLiteral("2ª via - Administradora")));

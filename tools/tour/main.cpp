@@ -3,6 +3,7 @@
 // each menu, and of every form of the catalog. Forms added to the catalog are
 // photographed without any change here.
 #include "app/formcatalog.h"
+#include "billing/filtro.h"
 #include "core/anotaerro.h"
 #include "core/forms/formcatalog.h"
 #include "core/forms/mdiHabitarium.h"
@@ -124,6 +125,13 @@ int main(int argc, char **argv)
         const bool sistema = entry.name == QLatin1String("frmPesqGeral");
         session.tabPesq = sistema ? QStringLiteral("Clientes") : QStringLiteral("Aptos");
         session.tituloPesq = sistema ? QStringLiteral("Pesquisa de Condomínios") : QStringLiteral("Pesquisa de Apartamentos");
+        // The pick lists of receipts and units take their statements from the session.
+        if (entry.name == QLatin1String("frmPesqRec")) {
+            session.tabPesq = kContaPadrao;
+            session.sql = kListaPadrao;
+        } else if (entry.name == QLatin1String("frmPesqRecSel")) {
+            session.sql = QStringLiteral("SELECT codigo,nome,nrecibo,nemis,demis FROM Aptos ORDER BY codigo");
+        }
         try {
             switch (entry.kind) {
             case FormKind::Child: {
