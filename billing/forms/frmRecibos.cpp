@@ -213,8 +213,7 @@ void frmRecibos::escolheRecibo()
 bool frmRecibos::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == ui_->tdgItens && event->type() == QEvent::KeyPress
-        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete
-        && ui_->tdgItens->state() != QAbstractItemView::EditingState) {
+        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete) {  // an open editor takes its own keys
         excluiItem();
         return true;
     }
