@@ -10,6 +10,7 @@
 #include "billing/forms/frmRecBaixa.h"
 #include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmPesqGeral.h"
@@ -36,6 +37,7 @@ void registerAllForms()
     registerForm<frmPesqRecSel>(FormKind::Dialog);
     registerForm<frmRecBaixa>(FormKind::Child);
     registerForm<frmSpool>(FormKind::Child);
+    registerForm<frmAptos>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -48,7 +50,7 @@ QStringList formsToCome()
 {
     return {
         // Registers
-        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
+        QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
         QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
         // Accounting
         QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),

@@ -1,5 +1,6 @@
 // Every register of the system, for the checks that read all their
 // descriptions. A new register adds its line here.
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmTTipAp.h"
@@ -9,5 +10,5 @@
 QList<const Registro *> todosRegistros()
 {
     return {&frmBlocos::descricao(), &frmTTipAp::descricao(), &frmCpj::descricao(), &frmUsucli::descricao(),
-            &frmUsuarios::descricao()};
+            &frmUsuarios::descricao(), &frmAptos::descricao()};
 }
