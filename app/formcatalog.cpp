@@ -10,6 +10,7 @@
 #include "billing/forms/frmAjTxVcto.h"
 #include "billing/forms/frmFiltro.h"
 #include "billing/forms/frmParametro.h"
+#include "billing/forms/frmRecibos.h"
 #include "billing/forms/frmPesqfin.h"
 #include "billing/forms/frmPesqRec.h"
 #include "billing/forms/frmPesqRecSel.h"
@@ -88,6 +89,7 @@ void registerAllForms()
     //   registerForm<frmAptos>(FormKind::Child);
     registerForm<frmParametro>(FormKind::Dialog);
     registerForm<frmAjTxVcto>(FormKind::Child);
+    registerForm<frmRecibos>(FormKind::Child);
 }
 
 QStringList formsToCome()
