@@ -1,11 +1,20 @@
 #include "app/formcatalog.h"
 
+#include "accounting/forms/frmMov.h"
+#include "accounting/forms/frmMovPesq.h"
+#include "accounting/forms/frmMov_Atualiza.h"
+#include "accounting/forms/frmMov_BalctP.h"
+#include "accounting/forms/frmMovSaldini.h"
+#include "accounting/forms/frmMovpo.h"
 #include "core/forms/formcatalog.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmPesqGeral.h"
+#include "registers/forms/frmPesqPlano.h"
 #include "registers/forms/frmPesqap.h"
 #include "registers/forms/frmPesquisa.h"
+#include "registers/forms/frmTContas.h"
+#include "registers/forms/frmTPlanoCtas.h"
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
@@ -21,6 +30,15 @@ void registerAllForms()
     registerForm<frmPesquisa>(FormKind::Dialog);
     registerForm<frmPesqGeral>(FormKind::Dialog);
     registerForm<frmPesqap>(FormKind::Dialog);
+    registerForm<frmTPlanoCtas>(FormKind::Child);
+    registerForm<frmPesqPlano>(FormKind::Dialog);
+    registerForm<frmTContas>(FormKind::Child);
+    registerForm<frmMov>(FormKind::Child);
+    registerForm<frmMovPesq>(FormKind::Dialog);
+    registerForm<frmMov_Atualiza>(FormKind::Child);
+    registerForm<frmMovSaldini>(FormKind::Child);
+    registerForm<frmMovpo>(FormKind::Child);
+    registerForm<frmMov_BalctP>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -33,9 +51,7 @@ QStringList formsToCome()
         QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
         QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
         // Accounting
-        QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
-        QStringLiteral("frmMovSaldini"), QStringLiteral("frmMov_BalctP"), QStringLiteral("frmTContas"),
-        QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
+        QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
         QStringLiteral("frmPesqfin"), QStringLiteral("frmAjTxVcto"), QStringLiteral("frmRecBaixa"),

@@ -80,6 +80,8 @@ struct Registro {
     PesquisaRegistro pesquisa;
     QString codigoInvalido = QStringLiteral("Todo Registro deve ter um código válido");
     QString abandono = QStringLiteral("Você não pode abandonar uma operação em andamento, grave ou cancele !");
+    QString campoCodigo = {};                          // the code field when it is not mskCodigo/txtCodigo
+    QString grade = QStringLiteral("tdbGrade");        // the grid's name
 };
 
 // The statement with every {name} replaced by its value. A name with no value

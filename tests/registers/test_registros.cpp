@@ -31,6 +31,8 @@ QHash<QString, QString> valoresDeExemplo(const Registro &r, const QString &codig
     v.insert(QStringLiteral("senha"), QStringLiteral("abc"));
     v.insert(QStringLiteral("hoje"), QStringLiteral("23/11/2026"));
     v.insert(QStringLiteral("empat"), QStringLiteral("1"));
+    v.insert(QStringLiteral("tipo"), QStringLiteral("D"));
+    v.insert(QStringLiteral("classe"), QStringLiteral("O"));
     return v;
 }
 
@@ -68,6 +70,12 @@ const Esperado kEsperados[] = {
      "cfbai) VALUES( '77',\"X\",\"abc\",'M','23/11/2026','1',True,True,True,True,True,True,True,True,True)",
      "Update usuarios Set nome = \"X\",impressora = 'M',empat = '1',Bdcon = True,Bdadi = True,Bdexc = True,"
      "Bdalt = True,Cfcon = True,Cfadi = True,Cfexc = True,Cfalt = True,Cfbai = True Where codigo = 77"},
+    {"frmTPlanoCtas", "01.001",
+     "INSERT INTO Plano(codigo,nome,tipo,classe,sintetico) VALUES('01.001',\"X\",\"D\",\"O\",True)",
+     "Update Plano Set nome = \"X\",tipo = 'D',classe = 'O',sintetico = True Where codigo = '01.001'"},
+    {"frmTContas", "77",
+     "INSERT INTO Contas(codigo,nbanco,nagencia,codbco,codagc,nrconta) VALUES(77,\"X\",\"X\",'X','X','X')",
+     "Update Contas Set nbanco = \"X\",NAgencia = \"X\",codbco = 'X',codagc = 'X',nrconta = 'X' Where codigo = 77"},
 };
 }
 
@@ -144,6 +152,8 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include "core/widgets/modal.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
+#include "registers/forms/frmTContas.h"
+#include "registers/forms/frmTPlanoCtas.h"
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
@@ -169,6 +179,8 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmCpj"), [] { return new frmCpj; }},
         {QStringLiteral("frmUsucli"), [] { return new frmUsucli; }},
         {QStringLiteral("frmUsuarios"), [] { return new frmUsuarios; }},
+        {QStringLiteral("frmTPlanoCtas"), [] { return new frmTPlanoCtas; }},
+        {QStringLiteral("frmTContas"), [] { return new frmTContas; }},
     };
     return f;
 }
@@ -225,7 +237,7 @@ TEST(Registros, ClosedWithTheCursorInTheCode)
             ASSERT_EQ(form->objectName(), nome);
             QWidget *codigo = QApplication::focusWidget();
             ASSERT_NE(codigo, nullptr);
-            EXPECT_TRUE(codigo->objectName().endsWith(QLatin1String("Codigo"))) << codigo->objectName().toStdString();
+            EXPECT_TRUE(codigo->objectName().endsWith(QLatin1String("Codigo"), Qt::CaseInsensitive)) << codigo->objectName().toStdString();
             if (como == CaixaDeFechar)
                 sub->close();
             else if (como == Sair)
