@@ -36,7 +36,15 @@ void prepara(QTableWidget &grade, const QString &tituloValor, std::function<void
     grade.setHorizontalHeaderLabels({QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Tipo"),
                                      QStringLiteral("Classe"), QStringLiteral("Sint"), tituloValor});
     grade.verticalHeader()->hide();
-    grade.horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    grade.verticalHeader()->setDefaultSectionSize(22);
+    grade.setWordWrap(false);
+    QHeaderView *h = grade.horizontalHeader();
+    h->setSectionResizeMode(QHeaderView::Fixed);
+    h->setSectionResizeMode(1, QHeaderView::Stretch);
+    grade.setColumnWidth(0, 70);
+    for (int c = 2; c <= kSint; ++c)
+        grade.setColumnWidth(c, 50);
+    grade.setColumnWidth(kValor, 130);
     grade.setSelectionBehavior(QAbstractItemView::SelectItems);
     grade.setSelectionMode(QAbstractItemView::SingleSelection);
     grade.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
@@ -78,8 +86,6 @@ void enche(QTableWidget &grade, Connection &cn, const QString &coluna)
         poeValor(grade, linha, rs[coluna].toDouble());
     }
     grade.setRowCount(linha);
-    grade.resizeColumnToContents(0);
-    grade.setColumnWidth(kValor, 130);
 }
 
 void somaSinteticas(QTableWidget &grade)

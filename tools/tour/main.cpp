@@ -124,6 +124,10 @@ int main(int argc, char **argv)
         const bool sistema = entry.name == QLatin1String("frmPesqGeral");
         session.tabPesq = sistema ? QStringLiteral("Clientes") : QStringLiteral("Aptos");
         session.tituloPesq = sistema ? QStringLiteral("Pesquisa de Condomínios") : QStringLiteral("Pesquisa de Apartamentos");
+        if (entry.name == QLatin1String("frmMovPesq")) {  // the entries of the demo's journal
+            session.tabPesq = QStringLiteral("Mov08");
+            session.tituloPesq = QStringLiteral("Pesquisa de Lançamentos");
+        }
         try {
             switch (entry.kind) {
             case FormKind::Child: {
