@@ -70,9 +70,9 @@ const Esperado kEsperados[] = {
      "cfbai) VALUES( '77',\"X\",\"abc\",'M','23/11/2026','1',True,True,True,True,True,True,True,True,True)",
      "Update usuarios Set nome = \"X\",impressora = 'M',empat = '1',Bdcon = True,Bdadi = True,Bdexc = True,"
      "Bdalt = True,Cfcon = True,Cfadi = True,Cfexc = True,Cfalt = True,Cfbai = True Where codigo = 77"},
-    {"frmTPlanoCtas", "01.001",
-     "INSERT INTO Plano(codigo,nome,tipo,classe,sintetico) VALUES('01.001',\"X\",\"D\",\"O\",True)",
-     "Update Plano Set nome = \"X\",tipo = 'D',classe = 'O',sintetico = True Where codigo = '01.001'"},
+    {"frmTPlanoCtas", "09.901",
+     "INSERT INTO Plano(codigo,nome,tipo,classe,sintetico) VALUES('09.901',\"X\",\"D\",\"O\",True)",
+     "Update Plano Set nome = \"X\",tipo = 'D',classe = 'O',sintetico = True Where codigo = '09.901'"},
     {"frmTContas", "77",
      "INSERT INTO Contas(codigo,nbanco,nagencia,codbco,codagc,nrconta) VALUES(77,\"X\",\"X\",'X','X','X')",
      "Update Contas Set nbanco = \"X\",NAgencia = \"X\",codbco = 'X',codagc = 'X',nrconta = 'X' Where codigo = 77"},
