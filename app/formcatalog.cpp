@@ -6,6 +6,8 @@
 #include "accounting/forms/frmMov_BalctP.h"
 #include "accounting/forms/frmMovSaldini.h"
 #include "accounting/forms/frmMovpo.h"
+#include "billing/forms/frmAjTxVcto.h"
+#include "billing/forms/frmParametro.h"
 #include "core/forms/formcatalog.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
@@ -42,6 +44,8 @@ void registerAllForms()
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
+    registerForm<frmParametro>(FormKind::Dialog);
+    registerForm<frmAjTxVcto>(FormKind::Child);
 }
 
 QStringList formsToCome()
@@ -54,8 +58,8 @@ QStringList formsToCome()
         QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
-        QStringLiteral("frmPesqfin"), QStringLiteral("frmAjTxVcto"), QStringLiteral("frmRecBaixa"),
-        QStringLiteral("frmParametro"), QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
+        QStringLiteral("frmPesqfin"), QStringLiteral("frmRecBaixa"),
+        QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Banks

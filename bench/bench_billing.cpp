@@ -6,17 +6,23 @@
 //   per apartment: 1 keyed read of Aptos, then 1 keyed UPDATE of Aptos and
 //   1 INSERT into Recibos in one transaction;
 //   1 UPDATE of Parametros at the end.
-// Without arguments it prints the figure beside its raw twin (bench/paired.h);
+// Beside it, the same run from its form's road: frmParametro's cmdInicia on the
+// same file (the save of the parameters, the right, the run with the bar kept
+// painting), against habtool emite's road (the read of the parameters, the
+// check of the last number, the run); the ratio is habtool's time over the form's.
+// Without arguments it prints the figures beside their twins (bench/paired.h);
 // with --benchmark_* arguments it runs the Google Benchmark cases.
 #include "bench/paired.h"
 #include "billing/emissao.h"
+#include "billing/forms/frmParametro.h"
 #include "billing/parametros.h"
 #include "core/conversions.h"
 #include "core/datastore.h"
 #include "core/prompter.h"
 #include "core/session.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QPushButton>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -87,6 +93,53 @@ double emissao(long &emitidos)
     const ResultadoEmissao r = emissaoAutomatica(con, p);
     const double s = double(t.nsecsElapsed()) / 1e9;
     emitidos = r.emitidos;
+    con.Close();
+    setPrompter(anterior);
+    return s;
+}
+
+// habtool emite's road: the stored parameters, the check of the last number, the run.
+double pelaLinhaDeComando(long &emitidos)
+{
+    Sim sim;
+    Prompter *anterior = setPrompter(&sim);
+    const QString arquivo = modelo().copia();
+    QElapsedTimer t;
+    t.start();
+    Connection con;
+    con.Open(kConnectionPrefix + arquivo + QStringLiteral(";"));
+    const ParametrosEmissao p = leParametros(con);
+    emitidos = 0;
+    if (!confereUltimoRecibo(con, p.fnreci))
+        emitidos = emissaoAutomatica(con, p).emitidos;
+    con.Close();
+    const double s = double(t.nsecsElapsed()) / 1e9;
+    setPrompter(anterior);
+    return s;
+}
+
+// The form's road: frmParametro opened on the file, cmdInicia pressed.
+double pelaForma(long &emitidos)
+{
+    Sim sim;
+    Prompter *anterior = setPrompter(&sim);
+    const QString arquivo = modelo().copia();
+    session.conAtiva = kConnectionPrefix + arquivo + QStringLiteral(";");
+    session.conSistema = kConnectionPrefix + modelo().dir.path() + QStringLiteral("/demo/Con000.mdb;");
+    session.usuario = QStringLiteral("Maria");
+    QElapsedTimer t;
+    t.start();
+    {
+        frmParametro form;
+        form.show();
+        form.findChild<QPushButton *>(QStringLiteral("cmdInicia"))->click();
+    }
+    const double s = double(t.nsecsElapsed()) / 1e9;
+    Connection con;
+    con.Open(session.conAtiva);
+    Recordset rs = con.Execute(QStringLiteral("SELECT Count(codigo) as I FROM Recibos WHERE nemis = '200804'"));
+    emitidos = long(rs[QStringLiteral("I")].toInt());
+    rs.Close();
     con.Close();
     setPrompter(anterior);
     return s;
@@ -257,7 +310,9 @@ BENCHMARK(BM_SQLiteMesmoTrabalho)->Unit(benchmark::kMillisecond)->Iterations(3)-
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     if (argc > 1 && std::strncmp(argv[1], "--benchmark", 11) == 0) {
         benchmark::Initialize(&argc, argv);
@@ -269,12 +324,16 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "mkdemo falhou\n");
         return 1;
     }
-    long projeto = 0, bruto = 0;
+    long projeto = 0, bruto = 0, forma = 0, linha = 0;
     bench::run({{"automatic emission, 10,000 units", double(modelo().esperados), " rec/s",
-                 [&] { return emissao(projeto); }, [&] { return mesmoTrabalho(bruto); }}},
+                 [&] { return emissao(projeto); }, [&] { return mesmoTrabalho(bruto); }},
+                {"from frmParametro (raw: habtool emite's road)", double(modelo().esperados), " rec/s",
+                 [&] { return pelaForma(forma); }, [&] { return pelaLinhaDeComando(linha); }}},
                bench::pairsWanted(argc, argv, 7));
-    if (projeto != modelo().esperados || bruto != modelo().esperados) {
-        std::fprintf(stderr, "recibos: projeto %ld, bruto %ld, esperados %d\n", projeto, bruto, modelo().esperados);
+    if (projeto != modelo().esperados || bruto != modelo().esperados || forma != modelo().esperados
+        || linha != modelo().esperados) {
+        std::fprintf(stderr, "recibos: projeto %ld, bruto %ld, forma %ld, habtool %ld, esperados %d\n", projeto, bruto,
+                     forma, linha, modelo().esperados);
         return 1;
     }
     return 0;

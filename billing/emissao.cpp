@@ -116,7 +116,7 @@ struct Insercao {
 
 } // namespace
 
-ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &form)
+ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &form, const ProgressFn &progresso)
 {
     ResultadoEmissao r;
     const Mes m = leMes(con);
@@ -157,6 +157,10 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
         != vbYes)
         return r;
     r.iniciada = true;
+    Progress barra;
+    barra.max = std::max<int>(contagem, 0);
+    if (progresso)
+        progresso(barra);
 
     const QString demis = textoData(m.fdemis);
     while (!lista.eof()) {
@@ -220,6 +224,10 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
                     % textoValor(t.vtotd) % QStringLiteral("','") % textoValor(t.vtotal) % QStringLiteral("')"));
         par.commit();
         ++r.emitidos;
+        if (progresso) {
+            barra.value = std::min(r.emitidos, barra.max);
+            progresso(barra);
+        }
         numero = proximoNumero(numero);
         lista.moveNext();
     }

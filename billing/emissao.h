@@ -1,6 +1,7 @@
 #pragma once
 // The automatic run of frmParametro: one receipt for each selected apartment,
 // numbered on from Parametros.Fnreci, without printing.
+#include "accounting/progress.h"
 #include "billing/parametros.h"
 
 #include <QDate>
@@ -39,4 +40,7 @@ inline const QString kMsgNadaAEmitir = QStringLiteral(
 // The run. The month's settings are read from Parametros; the three fee
 // events and their complements come from the form's controls (`form`), which
 // were saved just before. Asks "Confirmação.." before the first receipt.
-ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &form);
+// `progresso`, when given, hears the bar's range (0 to the count) once the run
+// starts and its value after every unit: frmParametro moves its bar and keeps
+// the window painting from there.
+ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &form, const ProgressFn &progresso = {});

@@ -2,6 +2,7 @@
 // The receipt record (Recibos): the one rule of its totals, the amount of an
 // item with a reference, the numbering, the settlement stamp, and the way its
 // values are written into statements. Every writer of receipts goes through here.
+#include "core/anotaerro.h"
 #include "core/money.h"
 
 #include <QDate>
@@ -19,7 +20,6 @@ struct ErroGravacao {
     QString mensagem;
     bool operator==(const ErroGravacao &) const = default;
 };
-inline const QString kErroFatal = QStringLiteral("Erro Fatal");
 inline const QString kAlertaDeErro = QStringLiteral("Alerta de Erro");
 
 // One item of a receipt, as the grid and the slots hold it.
