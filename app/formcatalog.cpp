@@ -9,6 +9,7 @@
 #include "billing/forms/frmAjTxVcto.h"
 #include "billing/forms/frmParametro.h"
 #include "core/forms/formcatalog.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmPesqGeral.h"
@@ -41,6 +42,7 @@ void registerAllForms()
     registerForm<frmMovSaldini>(FormKind::Child);
     registerForm<frmMovpo>(FormKind::Child);
     registerForm<frmMov_BalctP>(FormKind::Child);
+    registerForm<frmAptos>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
     //   registerForm<frmAptos>(FormKind::Child);
@@ -52,7 +54,7 @@ QStringList formsToCome()
 {
     return {
         // Registers
-        QStringLiteral("frmAptos"), QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
+        QStringLiteral("frmMobra"), QStringLiteral("frmMoradores"),
         QStringLiteral("frmVeiculos"), QStringLiteral("frmTpveiculos"),
         // Accounting
         QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),

@@ -1,5 +1,7 @@
 #include "reporting/imprime.h"
 
+#include "reporting/junta.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QPrinter>
@@ -67,9 +69,14 @@ void formulasComuns(ReportData &data)
 
 std::shared_ptr<const ReportDocument> MontaRelatorio(const QString &templateName, ReportData data)
 {
+    return MontaRelatorioDesde(templateName, std::move(data), 1);
+}
+
+std::shared_ptr<const ReportDocument> MontaRelatorioDesde(const QString &templateName, ReportData data, int primeiraPagina)
+{
     formulasComuns(data);
     const ReportTemplate tpl = loadTemplate(session.sysPath + templateName);
-    auto doc = std::make_shared<ReportDocument>(renderReport(tpl, data));
+    auto doc = std::make_shared<ReportDocument>(renderReport(tpl, data, primeiraPagina));
     doc->templateName = templateName;
     last() = doc;
     return doc;
@@ -80,6 +87,31 @@ void MostraRelatorio(const QString &templateName, ReportData data)
     auto doc = MontaRelatorio(templateName, std::move(data));
     if (viewer())
         viewer()(doc);
+}
+
+std::shared_ptr<const ReportDocument> juntaRelatorios(const std::vector<std::shared_ptr<const ReportDocument>> &partes)
+{
+    auto doc = std::make_shared<ReportDocument>(*partes.front());
+    for (size_t i = 1; i < partes.size(); ++i) {
+        const ReportDocument &parte = *partes[i];
+        const int primeiraFonte = int(doc->fonts.size());
+        doc->fonts.insert(doc->fonts.end(), parte.fonts.begin(), parte.fonts.end());
+        for (ReportPage page : parte.pages) {
+            for (DrawOp &op : page.ops)
+                op.font += primeiraFonte;
+            doc->pages.push_back(std::move(page));
+        }
+        doc->log << parte.log;
+    }
+    doc->log.removeDuplicates();
+    return doc;
+}
+
+void MostraDocumento(std::shared_ptr<const ReportDocument> doc)
+{
+    last() = doc;
+    if (viewer())
+        viewer()(std::move(doc));
 }
 
 bool ImprimeDireto(const QString &templateName, ReportData data)

@@ -1,5 +1,7 @@
 #include "reporting/renderer.h"
 
+#include "reporting/junta.h"
+
 #include "core/conversions.h"
 #include "reporting/barcode.h"
 
@@ -86,7 +88,8 @@ struct Prepared {
 
 class Layout {
 public:
-    Layout(const ReportTemplate &t, const ReportData &d) : t_(t), d_(d) {}
+    Layout(const ReportTemplate &t, const ReportData &d, int primeiraPagina = 1)
+        : t_(t), d_(d), primeiraPagina_(primeiraPagina) {}
     ReportDocument run();
 
 private:
@@ -106,6 +109,7 @@ private:
 
     const ReportTemplate &t_;
     const ReportData &d_;
+    int primeiraPagina_ = 1;  // the number the first page prints
     ReportDocument doc_;
     QHash<QString, int> columns_;       // lower-case name -> index
     QHash<QString, QString> formulas_;  // lower-case name -> value
@@ -170,7 +174,7 @@ QString Layout::resolve(const TextPart &part, int group)
         break;
     }
     case TextPart::Page:
-        value = QString::number(page_ + 1);
+        value = QString::number(page_ + primeiraPagina_);
         break;
     case TextPart::Pages:
         value = QString(QChar(kPageCountMark));
@@ -531,6 +535,11 @@ QString formatValue(const QString &text, const QString &picture)
 ReportDocument renderReport(const ReportTemplate &tpl, const ReportData &data)
 {
     return Layout(tpl, data).run();
+}
+
+ReportDocument renderReport(const ReportTemplate &tpl, const ReportData &data, int primeiraPagina)
+{
+    return Layout(tpl, data, primeiraPagina).run();
 }
 
 namespace {

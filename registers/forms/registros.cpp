@@ -1,5 +1,6 @@
 // Every register of the system, for the checks that read all their
 // descriptions. A new register adds its line here.
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmTContas.h"
@@ -11,5 +12,5 @@
 QList<const Registro *> todosRegistros()
 {
     return {&frmBlocos::descricao(), &frmTTipAp::descricao(), &frmCpj::descricao(), &frmUsucli::descricao(),
-            &frmUsuarios::descricao(), &frmTPlanoCtas::descricao(), &frmTContas::descricao()};
+            &frmUsuarios::descricao(), &frmTPlanoCtas::descricao(), &frmTContas::descricao(), &frmAptos::descricao()};
 }

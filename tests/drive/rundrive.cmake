@@ -102,7 +102,7 @@ foreach(line ${texts})
   if(NOT rc EQUAL 0)
     message(FATAL_ERROR "pdftotext failed on ${pdf}")
   endif()
-  string(ASCII 12 formfeed)  # "\f" is no escape this CMake knows
+  string(ASCII 12 formfeed)  # pages end with a form feed
   string(REPLACE "${formfeed}" "\n" text "${text}")
   string(REGEX REPLACE "[ \t]+" " " text "${text}")
   string(REGEX REPLACE " *\n *" "\n" text "${text}")

@@ -33,6 +33,11 @@ QHash<QString, QString> valoresDeExemplo(const Registro &r, const QString &codig
     v.insert(QStringLiteral("empat"), QStringLiteral("1"));
     v.insert(QStringLiteral("tipo"), QStringLiteral("D"));
     v.insert(QStringLiteral("classe"), QStringLiteral("O"));
+    v.insert(QStringLiteral("tapto"), QStringLiteral("01"));
+    v.insert(QStringLiteral("tuso"), QStringLiteral("1"));
+    v.insert(QStringLiteral("situ"), QStringLiteral("A"));
+    v.insert(QStringLiteral("codimob"), QStringLiteral("1"));
+    v.insert(QStringLiteral("codfin"), QStringLiteral("1"));
     return v;
 }
 
@@ -76,6 +81,24 @@ const Esperado kEsperados[] = {
     {"frmTContas", "77",
      "INSERT INTO Contas(codigo,nbanco,nagencia,codbco,codagc,nrconta) VALUES(77,\"X\",\"X\",'X','X','X')",
      "Update Contas Set nbanco = \"X\",NAgencia = \"X\",codbco = 'X',codagc = 'X',nrconta = 'X' Where codigo = 77"},
+    {"frmAptos", "000077",
+     "INSERT INTO Aptos(codigo,nome,codinterno,tapto,tuso,situ,nrcontpm,seguropro,quitado,cabina,aposentado,"
+     "crateio,codimob,codfin,conjugepro,enderecopro,numeropro,complementopro,bairropro,cidadepro,ufpro,ceppro,"
+     "cpfpro,rgpro,cnpjpro,emailpro,inquilino,enderecoinq,numeroinq,complementoinq,bairroinq,cidadeinq,ufinq,"
+     "cepinq,cpfinq,rginq,cnpjinq,emailinq,dddap,foneap,dddpro,fonepro,dddinq,foneinq,dddcoml,fonecoml,tipcob,"
+     "nemis,demis,nrecibo,tipbolbco,observ) VALUES('000077',\"X\",\"X\",'01','1','A','_____',True,True,True,"
+     "True,'1.5','1','1',\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'X','_____','_____','_____','_____',\"X\","
+     "\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'X','_____','_____','_____','_____',\"X\",'X','X','X','X','X','X',"
+     "'X','X','X','0','01/01/2003','000000','X',\"X\")",
+     "Update Aptos Set nome = \"X\",codinterno = \"X\",tapto = '01',tuso = '1',situ = 'A',nrcontpm = '_____',"
+     "seguropro = True,quitado = True,cabina = True,aposentado = True,crateio = '1.5',codimob = '1',"
+     "codfin = '1',conjugepro = \"X\",enderecopro = \"X\",numeropro = \"X\",complementopro = \"X\","
+     "bairropro = \"X\",cidadepro = \"X\",ufpro = 'X',ceppro = '_____',cpfpro = '_____',rgpro = '_____',"
+     "cnpjpro = '_____',emailpro = \"X\",inquilino = \"X\",enderecoinq = \"X\",numeroinq = \"X\","
+     "complementoinq = \"X\",bairroinq = \"X\",cidadeinq = \"X\",ufinq = 'X',cepinq = '_____',cpfinq = '_____',"
+     "rginq = '_____',cnpjinq = '_____',emailinq = \"X\",dddap = 'X',foneap = 'X',dddpro = 'X',fonepro = 'X',"
+     "dddinq = 'X',foneinq = 'X',dddcoml = 'X',fonecoml = 'X',tipcob = 'X',tipbolbco = 'X',"
+     "observ = \"X\" Where codigo = '000077'"},
 };
 }
 
@@ -150,6 +173,7 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include "registerssupport.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/modal.h"
+#include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
 #include "registers/forms/frmTContas.h"
@@ -166,6 +190,7 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
+#include <QStackedWidget>
 #include "core/widgets/keyboard.h"
 #include <QTest>
 #include <functional>
@@ -181,6 +206,17 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmUsuarios"), [] { return new frmUsuarios; }},
         {QStringLiteral("frmTPlanoCtas"), [] { return new frmTPlanoCtas; }},
         {QStringLiteral("frmTContas"), [] { return new frmTContas; }},
+        {QStringLiteral("frmAptos"),
+         [] {
+             // What the units' form reads as it opens: a type and the firms' (Nenhum) rows.
+             Connection cn;
+             cn.Open(session.conAtiva);
+             cn.Execute(QStringLiteral("INSERT INTO TpAp(codigo,descri,rateio) VALUES('01','Térreo','1')"));
+             cn.Execute(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',0)"));
+             cn.Execute(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',1)"));
+             cn.Close();
+             return new frmAptos;
+         }},
     };
     return f;
 }
@@ -307,9 +343,16 @@ TEST(Registros, EnterAfterANewCodeGoesToTheFieldsAndTabFollowsThem)
         auto *dados = form->findChild<QWidget *>(QStringLiteral("fraDados"));
         // Every field a clerk types in, once each, before the buttons (an
         // option group is one stop, at whichever of its buttons).
+        // A field on another page of a tab strip counts: Tab walks the pages.
+        auto aVista = [](QWidget *w) {
+            for (QWidget *p = w; p->parentWidget(); p = p->parentWidget())
+                if (qobject_cast<QStackedWidget *>(p->parentWidget()))
+                    return w->isVisibleTo(p) && p->parentWidget()->isVisible();
+            return w->isVisible();
+        };
         QSet<QString> esperados;
         for (QWidget *w : dados->findChildren<QWidget *>()) {
-            if (w->isEnabled() && w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !qobject_cast<QRadioButton *>(w))
+            if (w->isEnabled() && aVista(w) && (w->focusPolicy() & Qt::TabFocus) && !qobject_cast<QRadioButton *>(w))
                 esperados.insert(w->objectName());
         }
         QSet<QString> visitados;
