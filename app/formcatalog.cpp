@@ -6,6 +6,13 @@
 #include "accounting/forms/frmMov_BalctP.h"
 #include "accounting/forms/frmMovSaldini.h"
 #include "accounting/forms/frmMovpo.h"
+#include "banks/forms/filtrobanco.h"
+#include "banks/forms/frmBcoDiversos.h"
+#include "banks/forms/frmBcoSantander.h"
+#include "banks/forms/frmBoleto.h"
+#include "banks/forms/frmBoleto2.h"
+#include "banks/forms/frmCriaTxt.h"
+#include "banks/forms/frmGAbre_Arq.h"
 #include "billing/forms/frmAjTxVcto.h"
 #include "billing/forms/frmParametro.h"
 #include "core/forms/formcatalog.h"
@@ -42,6 +49,15 @@ void registerAllForms()
     registerForm<frmMovSaldini>(FormKind::Child);
     registerForm<frmMovpo>(FormKind::Child);
     registerForm<frmMov_BalctP>(FormKind::Child);
+    registerForm<frmBcoDiversos>(FormKind::Child);
+    registerForm<frmCriaTxt>(FormKind::Child);
+    registerForm<frmGAbre_Arq>(FormKind::Dialog);
+    registerForm<frmBoleto>(FormKind::Child);
+    // Opened by no menu entry: in the catalog for the tour.
+    registerForm<frmBcoSantander>(FormKind::Child);
+    registerForm<frmBoleto2>(FormKind::Child);
+    registerForm<frmFiltroBco>(FormKind::Child);
+    registerForm<frmFiltroImpBoleto>(FormKind::Child);
     registerForm<frmAptos>(FormKind::Child);
     // Registers, billing, banks, accounting, reporting and maintenance add
     // their forms below, one line each, and take them off formsToCome:
@@ -64,8 +80,6 @@ QStringList formsToCome()
         QStringLiteral("frmSpool"), QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmTEventos"), QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
-        // Banks
-        QStringLiteral("frmBcoDiversos"), QStringLiteral("frmBoleto"), QStringLiteral("frmCriaTxt"),
         // Reporting
         QStringLiteral("frmRelEnd"), QStringLiteral("frmRAptos"), QStringLiteral("frmRTelefonica"),
         QStringLiteral("frmRelatArq"), QStringLiteral("frmNormal"), QStringLiteral("frmPadrao"),

@@ -69,6 +69,8 @@ FimCalcBarra cmdCalcBarraG(Connection &con, FormCalcBarra &form)
         con.Execute(updateRecibosBanco(form.dataGeracao, form.trabalho, banco, rs["codigo"].text()));
         passo.commit();
         ++form.contagem;
+        if (form.progresso)
+            form.progresso(form.contagem, int(rs.recordCount()));
     }
     MsgBox(QStringLiteral("Código de Barra e Linha Digitável Calculada, Seleção liberada para Impressão !"), vbOKOnly,
            QStringLiteral("Atenção"));

@@ -8,6 +8,7 @@
 #include <QDate>
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 class Connection;
 
@@ -20,6 +21,8 @@ struct FormCalcBarra {
     QString carteira;             // the bare wallet filled to 3, kept by the run
     Boleto trabalho;              // number, free field, bar code, typed line, factor
     int16_t contagem = 0;         // receipts of the run
+    // Told after each receipt: receipts done and receipts of the selection (the form's bar).
+    std::function<void(int feitos, int total)> progresso;
 };
 
 enum class FimCalcBarra {

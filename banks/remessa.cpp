@@ -233,6 +233,8 @@ FimRemessa cmdGerarR(Connection &con, FormRemessa &form)
         }
         sobe16(form.contagem);
         ++contador;
+        if (form.progresso)
+            form.progresso(form.contagem, int(rs.recordCount()));
     }
 
     if (banco == u"422") {

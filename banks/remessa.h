@@ -77,6 +77,8 @@ struct FormRemessa {
     Boleto trabalho;
     // The save of the parameters (cmdGravaR) that closes a finished run; may be empty.
     std::function<void()> gravaParametros;
+    // Told after each receipt: receipts done and receipts of the selection (the form's bar).
+    std::function<void(int feitos, int total)> progresso;
 
     QString caminhoArquivo() const;   // pasta, "/", nome, ".TXT"
 };

@@ -15,6 +15,13 @@
 # pdftotext lays it out, blanks squeezed, empty lines left out: what a printed
 # paper says is checked as the rest of the output is. Today's date reads
 # @HOJE@ there, and a time right after it @HORA@.
+# Files a run writes are compared with what the support console makes from
+# the same database (paths relative to the run's folder):
+#   "# snapshot: FILE COPY"  before the run, copies FILE to COPY;
+#   "# habtool: ARGS"        after the run, runs habtool ARGS; adds "HABTOOL exit N";
+#   "# same: A B"            then adds "SAME A B" when the two files are equal
+#                            byte for byte, "DIFFERENT A B" when not.
+# A "# writes:" file whose name ends in .pdf must be a PDF; any other must exist.
 cmake_minimum_required(VERSION 3.25)
 
 function(fenced text tag out)
@@ -65,10 +72,36 @@ while(NOT rest STREQUAL "")
     string(REPLACE "@PDF@" "${WORK}/pdf" arg_text "${arg_text}")
     separate_arguments(args UNIX_COMMAND "${arg_text}")
   endif()
+  string(REGEX MATCHALL "(^|\n)# snapshot: [^\n]*" snapshots "${run}")
+  foreach(line ${snapshots})
+    string(REGEX REPLACE "^\n?# snapshot: *" "" pair "${line}")
+    separate_arguments(pair UNIX_COMMAND "${pair}")
+    list(GET pair 0 from)
+    list(GET pair 1 to)
+    file(COPY_FILE "${WORK}/${from}" "${WORK}/${to}")
+  endforeach()
   execute_process(COMMAND "${HABDRIVE}" "${WORK}/demo" "${script_file}" ${args}
                   WORKING_DIRECTORY "${WORK}" RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
   string(APPEND actual "${out}exit ${rc}\n")
   string(APPEND errors "${err}")
+  string(REGEX MATCHALL "(^|\n)# (habtool|same): [^\n]*" afterwards "${run}")
+  foreach(line ${afterwards})
+    if(line MATCHES "# habtool: *(.*)")
+      separate_arguments(targs UNIX_COMMAND "${CMAKE_MATCH_1}")
+      execute_process(COMMAND "${HABTOOL}" ${targs} WORKING_DIRECTORY "${WORK}" RESULT_VARIABLE trc
+                      OUTPUT_QUIET ERROR_VARIABLE terr)
+      string(APPEND actual "HABTOOL exit ${trc}\n")
+      string(APPEND errors "${terr}")
+    elseif(line MATCHES "# same: *([^ ]+) +([^ ]+)")
+      execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${WORK}/${CMAKE_MATCH_1}" "${WORK}/${CMAKE_MATCH_2}"
+                      RESULT_VARIABLE crc OUTPUT_QUIET ERROR_QUIET)
+      if(crc EQUAL 0)
+        string(APPEND actual "SAME ${CMAKE_MATCH_1} ${CMAKE_MATCH_2}\n")
+      else()
+        string(APPEND actual "DIFFERENT ${CMAKE_MATCH_1} ${CMAKE_MATCH_2}\n")
+      endif()
+    endif()
+  endforeach()
 endwhile()
 string(REPLACE "${WORK}/pdf" "@PDF@" actual "${actual}")
 
@@ -82,7 +115,7 @@ foreach(file ${files})
     message(FATAL_ERROR "${pdf} was not written")
   endif()
   file(READ "${pdf}" head LIMIT 4)
-  if(NOT head MATCHES "^%PDF")
+  if(pdf MATCHES "\\.pdf$" AND NOT head MATCHES "^%PDF")
     message(FATAL_ERROR "${pdf} is not a PDF")
   endif()
 endforeach()
