@@ -1,5 +1,11 @@
 #include "app/formcatalog.h"
 
+#include "accounting/forms/frmMov.h"
+#include "accounting/forms/frmMovPesq.h"
+#include "accounting/forms/frmMov_Atualiza.h"
+#include "accounting/forms/frmMov_BalctP.h"
+#include "accounting/forms/frmMovSaldini.h"
+#include "accounting/forms/frmMovpo.h"
 #include "banks/forms/filtrobanco.h"
 #include "banks/forms/frmBcoDiversos.h"
 #include "banks/forms/frmBcoSantander.h"
@@ -28,8 +34,11 @@
 #include "registers/forms/frmTpveiculos.h"
 #include "registers/forms/frmVeiculos.h"
 #include "registers/forms/frmPesqGeral.h"
+#include "registers/forms/frmPesqPlano.h"
 #include "registers/forms/frmPesqap.h"
 #include "registers/forms/frmPesquisa.h"
+#include "registers/forms/frmTContas.h"
+#include "registers/forms/frmTPlanoCtas.h"
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
@@ -60,6 +69,15 @@ void registerAllForms()
     registerForm<frmMobra>(FormKind::Child);
     registerForm<frmTEventos>(FormKind::Child);
     registerForm<frmPesqEv>(FormKind::Dialog);
+    registerForm<frmTPlanoCtas>(FormKind::Child);
+    registerForm<frmPesqPlano>(FormKind::Dialog);
+    registerForm<frmTContas>(FormKind::Child);
+    registerForm<frmMov>(FormKind::Child);
+    registerForm<frmMovPesq>(FormKind::Dialog);
+    registerForm<frmMov_Atualiza>(FormKind::Child);
+    registerForm<frmMovSaldini>(FormKind::Child);
+    registerForm<frmMovpo>(FormKind::Child);
+    registerForm<frmMov_BalctP>(FormKind::Child);
     registerForm<frmBcoDiversos>(FormKind::Child);
     registerForm<frmCriaTxt>(FormKind::Child);
     registerForm<frmGAbre_Arq>(FormKind::Dialog);
@@ -96,9 +114,7 @@ QStringList formsToCome()
 {
     return {
         // Accounting
-        QStringLiteral("frmMovpo"), QStringLiteral("frmMov_Atualiza"), QStringLiteral("frmMov"),
-        QStringLiteral("frmMovSaldini"), QStringLiteral("frmMov_BalctP"), QStringLiteral("frmTContas"),
-        QStringLiteral("frmTPlanoCtas"), QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
+        QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
         QStringLiteral("frmRLanctos"),
         // Billing
         QStringLiteral("frmCarta_Cob"),

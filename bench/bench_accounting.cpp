@@ -5,15 +5,18 @@
 // statements, prepared and bound, with the same transactions (bench/paired.h);
 // with --benchmark_* arguments it runs the Google Benchmark cases.
 #include "accounting/atualiza.h"
+#include "accounting/forms/frmMov_Atualiza.h"
 #include "accounting/balancete.h"
 #include "accounting/razao.h"
 #include "bench/paired.h"
 #include "core/datastore.h"
 #include "core/session.h"
+#include "core/widgets/datefield.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDate>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QVariant>
 #include <benchmark/benchmark.h>
@@ -100,6 +103,42 @@ void BM_AtualizaSaldos(benchmark::State &state)
     state.SetLabel("500 contas, 50.000 lançamentos em março, março a dezembro");
 }
 BENCHMARK(BM_AtualizaSaldos)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// The same update as the accountant runs it: frmMov_Atualiza on its own
+// connection, its two bars and pass text moving and the window painting.
+double atualizaPeloForm()
+{
+    session.conAtiva = connectionString(QFileInfo(Arquivo::instancia().arquivo).path() + QLatin1Char('/'),
+                                        QStringLiteral("Con001.mdb"), QString());
+    frmMov_Atualiza form;
+    form.show();
+    form.findChild<DateField *>(QStringLiteral("tdbAnomesfim"))->setData(QDate(2008, 3, 1));
+    QApplication::processEvents();
+    return bench::seconds([&] { form.cmdAtualiza_Click(); });
+}
+
+// What habtool atualiza runs: the routine on a connection, the pass texts to a sink.
+double atualizaComoHabtool()
+{
+    Connection con;
+    con.ConnectionTimeout = 100;
+    con.Open(connectionString(QFileInfo(Arquivo::instancia().arquivo).path() + QLatin1Char('/'),
+                              QStringLiteral("Con001.mdb"), QString()));
+    QString ultimo;
+    const double s = bench::seconds([&] {
+        AtualizaSaldos(con, QStringLiteral("03/2008"), [&](const Progress &p) { ultimo = p.text; });
+    });
+    con.Close();
+    return s;
+}
+
+void BM_AtualizaSaldosPeloForm(benchmark::State &state)
+{
+    for (auto _ : state)
+        state.SetIterationTime(atualizaPeloForm());
+    state.SetLabel("frmMov_Atualiza, 500 contas, 50.000 lançamentos em março");
+}
+BENCHMARK(BM_AtualizaSaldosPeloForm)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // The line number is the system's 16-bit counter, so a whole year of 50.000
 // entries (100.000 lines) cannot be unfolded: the run stops at line 32.767.
@@ -432,7 +471,9 @@ void balanceteBruto(Bruto &b)
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
     if (argc > 1 && std::strncmp(argv[1], "--benchmark", 11) == 0) {
         benchmark::Initialize(&argc, argv);
         benchmark::RunSpecifiedBenchmarks();
@@ -450,6 +491,8 @@ int main(int argc, char **argv)
                 {"balance update, 500 accounts, 50,000 entries", 1, " runs/s",
                  [&] { return bench::seconds([&] { AtualizaSaldos(con, QStringLiteral("03/2008")); }); },
                  [&] { return bench::seconds([&] { atualizaBruto(bruto); }); }},
+                {"balance update from frmMov_Atualiza (raw: habtool atualiza)", 1, " runs/s",
+                 [&] { return atualizaPeloForm(); }, [&] { return atualizaComoHabtool(); }},
                 {"trial balance fill, 500 accounts", 500, " accounts/s",
                  [&] { return bench::seconds([&] { EncheRBalancete(con, QStringLiteral("3"), QString(), false, QStringLiteral("2008")); }); },
                  [&] { return bench::seconds([&] { balanceteBruto(bruto); }); }}},

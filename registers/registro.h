@@ -82,6 +82,8 @@ struct Registro {
     // A new record whose code the file has already.
     QString codigoRepetido = QStringLiteral("Código Já Cadastrado, Troque o Número !");
     QString abandono = QStringLiteral("Você não pode abandonar uma operação em andamento, grave ou cancele !");
+    QString campoCodigo = {};                          // the code field when it is not mskCodigo/txtCodigo
+    QString grade = QStringLiteral("tdbGrade");        // the grid's name
 };
 
 // The statement with every {name} replaced by its value. A name with no value

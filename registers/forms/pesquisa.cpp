@@ -21,9 +21,10 @@
 #include <memory>
 
 PesquisaDialog::PesquisaDialog(QWidget *parent, const QString &nome, const QString &connectionString,
-                               const QList<Coluna> &colunas)
+                               const QList<Coluna> &colunas, const QString &fonte, const QString &ordem)
     : QDialog(parent), colunas_(colunas)
 {
+    const QString de = fonte.isEmpty() ? session.tabPesq : fonte;
     setObjectName(nome);
     setWindowTitle(session.tituloPesq);
 
@@ -90,7 +91,7 @@ PesquisaDialog::PesquisaDialog(QWidget *parent, const QString &nome, const QStri
     // Load.
     cn_.ConnectionTimeout = 100;
     cn_.Open(connectionString);
-    Recordset count = cn_.Execute(QStringLiteral("SELECT Count(codigo) As I FROM ") + session.tabPesq);
+    Recordset count = cn_.Execute(QStringLiteral("SELECT Count(codigo) As I FROM ") + de);
     if (count[QStringLiteral("I")].toInt() == 0) {
         MsgBox(QStringLiteral("Atenção, não há nenhum registro cadastrado !"), vbInformation, QStringLiteral("Atenção"));
         session.cancelaGrava = true;
@@ -101,7 +102,7 @@ PesquisaDialog::PesquisaDialog(QWidget *parent, const QString &nome, const QStri
     QStringList campos;
     for (const Coluna &c : colunas)
         campos << c.campo;
-    for (Recordset rs = cn_.Execute(QStringLiteral("SELECT ") + campos.join(u',') + QStringLiteral(" FROM ") + session.tabPesq);
+    for (Recordset rs = cn_.Execute(QStringLiteral("SELECT ") + campos.join(u',') + QStringLiteral(" FROM ") + de + ordem);
          !rs.eof(); rs.moveNext()) {
         QStringList linha;
         for (const Coluna &c : colunas)

@@ -30,7 +30,10 @@ public:
     bool confirmou() const { return confirmou_; }
 
 protected:
-    PesquisaDialog(QWidget *parent, const QString &nome, const QString &connectionString, const QList<Coluna> &colunas);
+    // `fonte` is what the count and the list read ("Plano WHERE ..."; by
+    // default the table session.tabPesq names), `ordem` the list's order (" Order By ...").
+    PesquisaDialog(QWidget *parent, const QString &nome, const QString &connectionString, const QList<Coluna> &colunas,
+                   const QString &fonte = {}, const QString &ordem = {});
     ~PesquisaDialog() override;
     void done(int result) override;
 

@@ -49,7 +49,7 @@ QWidget *RecordForm::controle(const QString &nome) const
 
 void RecordForm::carrega()
 {
-    mskCodigo_ = findChild<MaskEdit *>(QStringLiteral("mskCodigo"));
+    mskCodigo_ = findChild<MaskEdit *>(registro_.campoCodigo.isEmpty() ? QStringLiteral("mskCodigo") : registro_.campoCodigo);
     if (!mskCodigo_)
         mskCodigo_ = qobject_cast<MaskEdit *>(controle(QStringLiteral("txtCodigo")));
     if (mskCodigo_->mascara().isEmpty()) {
@@ -58,7 +58,7 @@ void RecordForm::carrega()
             QRegularExpression(QStringLiteral("[0-9]{0,%1}").arg(mskCodigo_->maxLength())), mskCodigo_));
     }
     fraDados_ = qobject_cast<QFrame *>(controle(QStringLiteral("fraDados")));
-    tdbGrade_ = qobject_cast<Grade *>(controle(QStringLiteral("tdbGrade")));
+    tdbGrade_ = qobject_cast<Grade *>(controle(registro_.grade));
     cmdGravar_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdGravar")));
     cmdApagar_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdApagar")));
     cmdCancelar_ = qobject_cast<QPushButton *>(controle(QStringLiteral("cmdCancelar")));

@@ -29,8 +29,8 @@ public:
     bool novo() const { return novo_; }
 
     void TrocaModo(int modo);
-    void mskCodigo_LostFocus();
-    void cmdGravar_Click();
+    virtual void mskCodigo_LostFocus();
+    virtual void cmdGravar_Click();
     void cmdApagar_Click();
     void cmdCancelar_Click();
     void cmdImprimir_Click();
@@ -115,6 +115,7 @@ protected:
     MaskEdit *mskCodigo_ = nullptr;  // the code field, whatever its name
     QFrame *fraDados_ = nullptr;
     Grade *tdbGrade_ = nullptr;
+    bool novo_ = false;
     QPushButton *cmdGravar_ = nullptr, *cmdApagar_ = nullptr, *cmdCancelar_ = nullptr;
     QPushButton *cmdImprimir_ = nullptr, *cmdPesquisar_ = nullptr, *cmdSair_ = nullptr;
 
@@ -128,7 +129,6 @@ private:
 
     const Registro &registro_;
     int modo_ = 1;
-    bool novo_ = false;
     bool achou_ = false;
     bool carregando_ = false;
 };

@@ -8,6 +8,8 @@
 #include "registers/forms/frmTEventos.h"
 #include "registers/forms/frmTpveiculos.h"
 #include "registers/forms/frmVeiculos.h"
+#include "registers/forms/frmTContas.h"
+#include "registers/forms/frmTPlanoCtas.h"
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmUsuarios.h"
 #include "registers/forms/frmUsucli.h"
@@ -17,5 +19,5 @@ QList<const Registro *> todosRegistros()
     return {&frmBlocos::descricao(), &frmTTipAp::descricao(), &frmCpj::descricao(), &frmUsucli::descricao(),
             &frmUsuarios::descricao(), &frmMoradores::descricao(), &frmVeiculos::descricao(),
             &frmTpveiculos::descricao(), &frmMobra::descricao(), &frmTEventos::descricao(),
-            &frmAptos::descricao()};
+            &frmTPlanoCtas::descricao(), &frmTContas::descricao(), &frmAptos::descricao()};
 }

@@ -37,6 +37,7 @@ QHash<QString, QString> valoresDeExemplo(const Registro &r, const QString &codig
     v.insert(QStringLiteral("vinculo"), QStringLiteral("1"));
     v.insert(QStringLiteral("tipo"), QStringLiteral("0"));
     v.insert(QStringLiteral("codemap"), QStringLiteral("0"));
+    v.insert(QStringLiteral("classe"), QStringLiteral("O"));
     v.insert(QStringLiteral("tapto"), QStringLiteral("01"));
     v.insert(QStringLiteral("tuso"), QStringLiteral("1"));
     v.insert(QStringLiteral("situ"), QStringLiteral("A"));
@@ -103,6 +104,12 @@ const Esperado kEsperados[] = {
      "ufctps = \"X\",endereco = \"X\",numero = \"X\",complemento = \"X\",bairro = \"X\",cidade = \"X\","
      "uf = \"X\",cep = '_____',tipo = '0',Nascto = null,codemap = 0,qualif1 = \"X\",qualif2 = \"X\","
      "qualif3 = \"X\",observ = \"X\" Where codigo = 77"},
+    {"frmTPlanoCtas", "09.901",
+     "INSERT INTO Plano(codigo,nome,tipo,classe,sintetico) VALUES('09.901',\"X\",\"0\",\"O\",True)",
+     "Update Plano Set nome = \"X\",tipo = '0',classe = 'O',sintetico = True Where codigo = '09.901'"},
+    {"frmTContas", "77",
+     "INSERT INTO Contas(codigo,nbanco,nagencia,codbco,codagc,nrconta) VALUES(77,\"X\",\"X\",'X','X','X')",
+     "Update Contas Set nbanco = \"X\",NAgencia = \"X\",codbco = 'X',codagc = 'X',nrconta = 'X' Where codigo = 77"},
     {"frmAptos", "000077",
      "INSERT INTO Aptos(codigo,nome,codinterno,tapto,tuso,situ,nrcontpm,seguropro,quitado,cabina,aposentado,"
      "crateio,codimob,codfin,conjugepro,enderecopro,numeropro,complementopro,bairropro,cidadepro,ufpro,ceppro,"
@@ -201,6 +208,8 @@ TEST(Registros, AStatementNeverGoesOutWithAHole)
 #include "registers/forms/frmMobra.h"
 #include "registers/forms/frmMoradores.h"
 #include "registers/forms/frmTEventos.h"
+#include "registers/forms/frmTContas.h"
+#include "registers/forms/frmTPlanoCtas.h"
 #include "registers/forms/frmTTipAp.h"
 #include "registers/forms/frmTpveiculos.h"
 #include "registers/forms/frmVeiculos.h"
@@ -234,6 +243,8 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmTpveiculos"), [] { return new frmTpveiculos; }},
         {QStringLiteral("frmMobra"), [] { return new frmMobra; }},
         {QStringLiteral("frmTEventos"), [] { return new frmTEventos; }},
+        {QStringLiteral("frmTPlanoCtas"), [] { return new frmTPlanoCtas; }},
+        {QStringLiteral("frmTContas"), [] { return new frmTContas; }},
         {QStringLiteral("frmAptos"),
          [] {
              // What the units' form reads as it opens: a type and the firms' (Nenhum) rows.
@@ -306,7 +317,7 @@ TEST(Registros, ClosedWithTheCursorInTheCode)
             ASSERT_EQ(form->objectName(), nome);
             QWidget *codigo = QApplication::focusWidget();
             ASSERT_NE(codigo, nullptr);
-            EXPECT_TRUE(codigo->objectName().endsWith(QLatin1String("Codigo"))) << codigo->objectName().toStdString();
+            EXPECT_TRUE(codigo->objectName().endsWith(QLatin1String("Codigo"), Qt::CaseInsensitive)) << codigo->objectName().toStdString();
             if (como == CaixaDeFechar)
                 sub->close();
             else if (como == Sair)

@@ -134,6 +134,9 @@ int main(int argc, char **argv)
             session.sql = kListaPadrao;
         } else if (entry.name == QLatin1String("frmPesqRecSel")) {
             session.sql = QStringLiteral("SELECT codigo,nome,nrecibo,nemis,demis FROM Aptos ORDER BY codigo");
+        } else if (entry.name == QLatin1String("frmMovPesq")) {  // the entries of the demo's journal
+            session.tabPesq = QStringLiteral("Mov08");
+            session.tituloPesq = QStringLiteral("Pesquisa de Lançamentos");
         }
         try {
             switch (entry.kind) {
