@@ -191,7 +191,7 @@ const QList<ModeloListagem> &modelosListagem()
 
 QString arquivoModelo(int numero) { return s("lrMod") + ZeroEsq(QString::number(numero), 2) + s(".rpt"); }
 
-const QList<CampoFiltro> &camposFiltro()
+const QList<CampoFiltro> &camposFiltroListagem()
 {
     // Codes are text of six digits: their ranges compare as text.
     static const QList<CampoFiltro> c{

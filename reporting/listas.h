@@ -75,7 +75,7 @@ struct CampoFiltro {
     QString coluna;
     QChar tipo;  // 'S' text, 'N' number, 'D' date
 };
-const QList<CampoFiltro> &camposFiltro();
+const QList<CampoFiltro> &camposFiltroListagem();
 // " ORDER BY column" of an order text of cmbOrdem; empty for an unknown text.
 QString ordemListagem(const QString &texto);
 // "WHERE " and the range clause of the field; from and to as typed (a date as

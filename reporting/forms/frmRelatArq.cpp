@@ -25,7 +25,7 @@ frmRelatArq::frmRelatArq(QWidget *parent) : QWidget(parent), ui_(std::make_uniqu
     connect(ui_->tdlModelo, &Grade::linhaMudou, this,
             [this](int linha) { modelo_ = ui_->tdlModelo->texto(linha, 0).toInt(); });
 
-    for (const CampoFiltro &c : camposFiltro()) {
+    for (const CampoFiltro &c : camposFiltroListagem()) {
         ui_->cmbCampo->addItem(c.texto);
         ui_->cmbOrdem->addItem(c.texto);
     }
@@ -52,7 +52,7 @@ frmRelatArq::~frmRelatArq()
 void frmRelatArq::campoEscolhido()
 {
     const int i = ui_->cmbCampo->currentIndex();
-    const QChar tipo = i < 0 ? QLatin1Char('S') : camposFiltro()[i].tipo;
+    const QChar tipo = i < 0 ? QLatin1Char('S') : camposFiltroListagem()[i].tipo;
     const bool texto = tipo == QLatin1Char('S'), numero = tipo == QLatin1Char('N'), data = tipo == QLatin1Char('D');
     ui_->txtDe->setVisible(texto);
     ui_->txtAt->setVisible(texto);
@@ -83,7 +83,7 @@ void frmRelatArq::cmdImprimir_Click()
     const int c = ui_->cmbCampo->currentIndex();
     QString de, ate;
     if (c >= 0) {
-        const QChar tipo = camposFiltro()[c].tipo;
+        const QChar tipo = camposFiltroListagem()[c].tipo;
         bool vazio = false;
         if (tipo == QLatin1Char('N')) {
             de = ui_->tdnDe->text().trimmed();
@@ -112,7 +112,7 @@ void frmRelatArq::cmdImprimir_Click()
     const int numero = modelo_;
     const ModeloListagem &modelo = modelosListagem()[numero - 1];
 
-    const QString filtro = c >= 0 ? filtroListagem(camposFiltro()[c], de, ate) : QString();
+    const QString filtro = c >= 0 ? filtroListagem(camposFiltroListagem()[c], de, ate) : QString();
     session.sql = QStringLiteral("SELECT * FROM ") + modelo.tabela + QStringLiteral(" ") + filtro
         + ordemListagem(ui_->cmbOrdem->currentText());
     Recordset rs;
