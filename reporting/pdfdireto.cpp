@@ -116,8 +116,8 @@ private:
     bool preparaFontes()
     {
         QHash<QString, const char *> carregadas;
-        for (const FontSpec &spec : doc_.fonts) {
-            const QString file = arquivoFonte(spec);
+        for (const FontSpec &fonte : doc_.fonts) {
+            const QString file = arquivoFonte(fonte);
             if (file.isEmpty())
                 return false;
             const char *name = carregadas.value(file);
@@ -131,8 +131,8 @@ private:
             f.font = HPDF_GetFont(pdf_, name, "WinAnsiEncoding");
             if (!f.font || erro_)
                 return false;
-            f.size = spec.size;
-            f.qt = reportFont(spec);
+            f.size = fonte.size;
+            f.qt = reportFont(fonte);
             const QFontMetricsF fm(f.qt);
             f.ascent = fm.ascent() / kUnits;
             f.lineHeight = fm.height() / kUnits;

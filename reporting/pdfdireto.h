@@ -17,4 +17,4 @@ bool escrevePdfDireto(const ReportDocument &doc, const QString &path);
 // (writePdf takes it when escrevePdfDireto declines).
 bool writePdfQt(const ReportDocument &doc, const QString &path, QString *error = nullptr);
 // The font a template's FontSpec stands for, sized in hundredths of a millimetre.
-QFont reportFont(const FontSpec &spec);
+QFont reportFont(const FontSpec &fonte);

@@ -626,7 +626,7 @@ const Glifos &glifos(const QFont &font, const QString &fontKey, const QString &t
 }
 } // namespace
 
-QFont reportFont(const FontSpec &spec) { return makeFont(spec); }
+QFont reportFont(const FontSpec &fonte) { return makeFont(fonte); }
 
 void paintPage(QPainter &painter, const ReportDocument &doc, int index, double dotsPerMm)
 {
