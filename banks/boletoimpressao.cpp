@@ -24,6 +24,13 @@ QString carteiraMantida(const QString &banco, const QString &carteira)
         return nua == u"00" ? QStringLiteral("SR") : QStringLiteral("  ");
     return ZeroEsq(nua.left(2), 2);
 }
+// No bank chosen, or one without a slip: the bank code's own message.
+FimImpressaoBoleto semModelo()
+{
+    MsgBox(QStringLiteral("Programado apenas para os Bancos 001, 104, 151, 237, 341, 353, 409 e 422"), vbOKOnly,
+           QStringLiteral("Atenção..."));
+    return FimImpressaoBoleto::SemModelo;
+}
 } // namespace
 
 void leParametrosImpressao(Connection &con, ParametrosImpressao &p)
@@ -95,10 +102,25 @@ QList<QPair<QString, QString>> formulasBoleto(const ParametrosImpressao &p)
     add("DataProc", p.dataProc.isValid() ? formatDate(p.dataProc, QStringLiteral("dd/mm/yyyy")) : QString());
     for (int i = 0; i < 6; ++i)
         f.append({QStringLiteral("Instru%1").arg(i + 1), p.instrucoes[size_t(i)]});
-    for (int i = 0; i < int(session.demonstrativo.size()); ++i)
-        f.append({QStringLiteral("Linha%1").arg(i, 3, 10, QChar(u'0')), session.demonstrativo[size_t(i)]});
+    f.append(formulasDemonstrativo());
     add("Titu", p.titulo);
     return f;
+}
+
+QList<QPair<QString, QString>> formulasDemonstrativo()
+{
+    QList<QPair<QString, QString>> f;
+    for (int i = 0; i < int(session.demonstrativo.size()); ++i)
+        f.append({QStringLiteral("Linha%1").arg(i, 3, 10, QChar(u'0')), session.demonstrativo[size_t(i)]});
+    return f;
+}
+
+QStringList linhasDemonstrativo()
+{
+    qsizetype n = qsizetype(session.demonstrativo.size());
+    while (n > 0 && session.demonstrativo[size_t(n - 1)].trimmed().isEmpty())
+        --n;
+    return QStringList(session.demonstrativo.begin(), session.demonstrativo.begin() + n);
 }
 
 const QStringList &colunasBoleto()
@@ -141,6 +163,7 @@ ImpressaoBoletos montaBoletos(Connection &con, const ParametrosImpressao &p, con
     out.titulo = p.titulo;
     out.colunas = colunasBoleto();
     out.formulas = formulasBoleto(p);
+    out.demonstrativo = linhasDemonstrativo();
     // 409's wallet is always blank and 353's number is told without it: the
     // number prints alone there.
     const QString carteiraNr =
@@ -200,7 +223,7 @@ FimImpressaoBoleto imprimeBoleto(Connection &con, const ParametrosImpressao &p, 
         return FimImpressaoBoleto::SemCodigoBarra;
     }
     if (modeloBoleto(p.banco).isEmpty())
-        return FimImpressaoBoleto::SemModelo;
+        return semModelo();
     impressao = montaBoletos(con, p, filtroUmRecibo(numero));
     if (impressao.linhas.empty()) {
         MsgBox(QStringLiteral("Recibo selecionado não existe ou já foi baixado !"), vbOKOnly,
@@ -218,7 +241,7 @@ FimImpressaoBoleto imprimeSelecaoBoletos(Connection &con, const ParametrosImpres
         return FimImpressaoBoleto::SemSelecao;
     }
     if (modeloBoleto(p.banco).isEmpty())
-        return FimImpressaoBoleto::SemModelo;
+        return semModelo();
     impressao = montaBoletos(con, p, filtro);
     if (impressao.linhas.empty()) {
         MsgBox(QStringLiteral("Não há recibos na seleção estabelecida, selecione e clique [Selecionar] !"), vbOKOnly,

@@ -48,9 +48,15 @@ QString carteiraBoleto(const QString &banco, const QString &carteira);
 QString nrbcoImpresso(const QString &nrbco);
 
 // The bank's formulas: Cedente, AgConta, Carteira, EspecieDoc, Rconvenio
-// (001), DataProc, Instru1..Instru6, Titu and Linha000..Linha121 from the
-// session's statement buffer.
+// (001), DataProc, Instru1..Instru6, Titu and the statement's.
 QList<QPair<QString, QString>> formulasBoleto(const ParametrosImpressao &p);
+
+// The statement on the slip: the session's buffer as formulas Linha000 ..
+// Linha121, and as the rows (column "Linha") of the sub-report BalRecItau,
+// up to its last line with text.
+inline const QString kSubDemonstrativo = QStringLiteral("BalRecItau");
+QList<QPair<QString, QString>> formulasDemonstrativo();
+QStringList linhasDemonstrativo();
 
 // The slip data columns, in order; "@NossoNr" last: each row its own NossoNr.
 const QStringList &colunasBoleto();
@@ -68,6 +74,7 @@ struct ImpressaoBoletos {
     QStringList colunas;
     std::vector<QStringList> linhas;
     QList<QPair<QString, QString>> formulas;
+    QStringList demonstrativo;   // the rows of the sub-report BalRecItau
 };
 
 // Runs sqlBoletos(filtro) and fills one row a receipt. No rows: empty `linhas`.
@@ -81,7 +88,7 @@ enum class FimImpressaoBoleto {
     NaoAberto,       // "Recibo selecionado não existe ou já foi baixado !"
     SemSelecao,      // the focus goes to cmdSelRec
     SelecaoVazia,    // "Não há recibos na seleção estabelecida, selecione e clique [Selecionar] !"
-    SemModelo,       // a bank code without a slip template: nothing to print
+    SemModelo,       // a bank code without a slip template: "Programado apenas para os Bancos ..."
 };
 
 // cmdImprimir: one receipt by txtNrRecibo. Shows the message of each stop.

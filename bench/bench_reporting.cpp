@@ -51,9 +51,13 @@ ReportData slipData()
                           QStringLiteral("José Antônio Ferreira"), QStringLiteral("001"), QStringLiteral("Taxa de condomínio"),
                           QStringLiteral("03/2008"), QStringLiteral("557,37")});
     d.setFormula(QStringLiteral("Cedente"), QStringLiteral("Condomínio Edifício Solar das Acácias"));
+    SubreportData &demonstrativo = d.subreports[QStringLiteral("BalRecItau")];
+    demonstrativo.columns = {QStringLiteral("Linha")};
     for (int i = 0; i < 60; ++i)
-        d.setFormula(QStringLiteral("Linha%1").arg(i, 3, 10, QChar(u'0')),
-                     QStringLiteral("%1%2%3").arg(QStringLiteral("Despesa de manutenção"), -40).arg(QStringLiteral("1.234,56"), 11).arg(QStringLiteral("12.345,67"), 19));
+        demonstrativo.rows.push_back({QStringLiteral("%1%2%3")
+                                          .arg(QStringLiteral("Despesa de manutenção"), -40)
+                                          .arg(QStringLiteral("1.234,56"), 11)
+                                          .arg(QStringLiteral("12.345,67"), 19)});
     d.title = QStringLiteral("Boletos");
     return d;
 }

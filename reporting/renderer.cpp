@@ -105,6 +105,7 @@ private:
     int fontIndex(const FontSpec &wanted);
     std::vector<Prepared> prepare(const Band &band, double &height);
     void put(const std::vector<Prepared> &items, double left, double top);
+    void putSubreport(const Item &it, double left, double top);
     void place(const Band *band, double keepWith = 0);
     void startPage();
     void closePage();
@@ -321,9 +322,45 @@ void Layout::put(const std::vector<Prepared> &items, double left, double top)
             op.bars = std::move(bars.bars);
             break;
         }
+        case Item::Subreport:
+            putSubreport(it, left, top);
+            continue;
         }
         page.ops.push_back(std::move(op));
     }
+}
+
+// The rows of a sub-report inside its box, one row band each: down the first
+// column, then the next. Rows past the last column are left out and noted.
+// Inside, a field is a column of the sub-report's rows; formulas are the print's.
+void Layout::putSubreport(const Item &it, double left, double top)
+{
+    const auto data = d_.subreports.constFind(it.name);
+    if (data == d_.subreports.constEnd()) {
+        note(QStringLiteral("Sub-relatório sem dados: %1").arg(it.name));
+        return;
+    }
+    QHash<QString, int> columns;
+    for (int i = 0; i < data->columns.size(); ++i)
+        columns.insert(data->columns[i].toLower(), i);
+    std::swap(columns, columns_);
+    const QStringList *outer = row_;
+    const Band &band = *it.row;
+    const size_t perColumn = size_t(std::max(1, int((it.h + 1e-6) / band.height)));
+    const double columnWidth = it.w / it.columns;
+    for (size_t r = 0; r < data->rows.size(); ++r) {
+        const size_t column = r / perColumn;
+        if (column >= size_t(it.columns)) {
+            note(QStringLiteral("Sub-relatório %1: %2 linha(s) além do espaço").arg(it.name).arg(data->rows.size() - r));
+            break;
+        }
+        row_ = &data->rows[r];
+        double h = 0;
+        const auto items = prepare(band, h);
+        put(items, left + it.x + double(column) * columnWidth, top + it.y + double(r % perColumn) * band.height);
+    }
+    row_ = outer;
+    std::swap(columns, columns_);
 }
 
 void Layout::startPage()

@@ -14,6 +14,12 @@
 #include <QStringList>
 #include <vector>
 
+// The rows of a sub-report (the statement of a slip): columns and cells.
+struct SubreportData {
+    QStringList columns;
+    std::vector<QStringList> rows;
+};
+
 // The data of one print: text columns in order, one list of cells per row, the
 // named formulas and the title.
 struct ReportData {
@@ -23,6 +29,9 @@ struct ReportData {
     // any other text prints as it stands.
     QHash<QString, QString> formulas;
     QString title;
+    // The data sets of the template's sub-reports, by name; the same rows on
+    // every page that shows the sub-report.
+    QHash<QString, SubreportData> subreports;
 
     // Sets a formula as a quoted literal, the way every form passes its values.
     void setFormula(const QString &name, const QString &value);

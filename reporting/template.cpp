@@ -63,6 +63,8 @@ private:
     ReportTemplate t_;
     Band *open_ = nullptr;   // the band being read, until its "end"
     int openLine_ = 0;
+    Band *row_ = nullptr;    // the row band of a subreport being read, until its "end"
+    int rowLine_ = 0;
     int pageLine_ = 0, marginsLine_ = 0;    // where the page and its margins were given
 };
 
@@ -336,9 +338,14 @@ void Parser::parseItem(const std::vector<Token> &tokens)
         it.kind = Item::Rect;
     else if (kind == QLatin1String("barcode"))
         it.kind = Item::Barcode;
+    else if (kind == QLatin1String("subreport") && !row_)
+        it.kind = Item::Subreport;
+    else if (kind == QLatin1String("subreport"))
+        fail(QStringLiteral("subreport dentro de subreport"));
     else
         fail(QStringLiteral("item desconhecido: \"%1\"").arg(kind));
-    const bool hasText = it.kind == Item::Text || it.kind == Item::Barcode;
+    const bool sub = it.kind == Item::Subreport;
+    const bool hasText = it.kind == Item::Text || it.kind == Item::Barcode || sub;
     if (hasText)
         need = 6;
     if (tokens.size() < need)
@@ -350,7 +357,13 @@ void Parser::parseItem(const std::vector<Token> &tokens)
     if (hasText) {
         if (!tokens[5].quoted)
             fail(QStringLiteral("o texto do item deve vir entre aspas"));
-        it.parts = parseText(tokens[5].text);
+        if (sub) {
+            it.name = tokens[5].text;
+            it.row = std::make_shared<Band>();
+            it.row->line = line_;
+        } else {
+            it.parts = parseText(tokens[5].text);
+        }
     }
     for (size_t i = need; i < tokens.size(); ++i) {
         if (!tokens[i].quoted && tokens[i].text == QLatin1String("when")) {
@@ -359,7 +372,11 @@ void Parser::parseItem(const std::vector<Token> &tokens)
         }
         const auto [key, value] = option(tokens[i]);
         const bool text = it.kind == Item::Text;
-        if (text && key == QLatin1String("size"))
+        if (sub && key == QLatin1String("height"))
+            it.row->height = number(Token{value, false}, "height");
+        else if (sub && key == QLatin1String("columns"))
+            it.columns = int(number(Token{value, false}, "columns"));
+        else if (text && key == QLatin1String("size"))
             it.font.size = number(Token{value, false}, "size");
         else if (text && key == QLatin1String("family") && !value.isEmpty())
             it.font.family = value;
@@ -393,9 +410,9 @@ void Parser::parseItem(const std::vector<Token> &tokens)
             it.clip = false;
         else if (text && key == QLatin1String("grow"))
             it.grow = true;
-        else if (it.kind != Item::Barcode && key == QLatin1String("width"))
+        else if (it.kind != Item::Barcode && !sub && key == QLatin1String("width"))
             it.pen = number(Token{value, false}, "width");
-        else if (it.kind != Item::Barcode && key == QLatin1String("dash"))
+        else if (it.kind != Item::Barcode && !sub && key == QLatin1String("dash"))
             it.dash = true;
         else if (it.kind == Item::Rect && key == QLatin1String("fill") && !value.isEmpty())
             it.fill = value;
@@ -404,7 +421,14 @@ void Parser::parseItem(const std::vector<Token> &tokens)
     }
     if (it.kind != Item::Line && (it.w <= 0 || it.h <= 0))
         fail(QStringLiteral("largura e altura devem ser positivas"));
-    open_->items.push_back(it);
+    if (sub && (it.row->height <= 0 || it.columns < 1))
+        fail(QStringLiteral("subreport precisa de height= positiva (a altura de uma linha) e columns= de 1 para cima"));
+    (row_ ? row_ : open_)->items.push_back(it);
+    // The items that follow, up to its "end", lay out one row of the subreport.
+    if (sub) {
+        row_ = it.row.get();
+        rowLine_ = line_;
+    }
 }
 
 ReportTemplate Parser::parse(const QString &text)
@@ -421,7 +445,10 @@ ReportTemplate Parser::parse(const QString &text)
             fail(QStringLiteral("linha começa com texto entre aspas"));
         if (open_) {
             if (word == QLatin1String("end")) {
-                open_ = nullptr;
+                if (row_)
+                    row_ = nullptr;
+                else
+                    open_ = nullptr;
                 continue;
             }
             if (word == QLatin1String("band"))
@@ -484,6 +511,8 @@ ReportTemplate Parser::parse(const QString &text)
             fail(QStringLiteral("linha desconhecida: \"%1\"").arg(word));
         }
     }
+    if (row_)
+        throw TemplateError(file_, rowLine_, QStringLiteral("subreport sem \"end\""));
     if (open_)
         throw TemplateError(file_, openLine_, QStringLiteral("band sem \"end\""));
     if (!t_.band(BandKind::Detail))

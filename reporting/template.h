@@ -6,6 +6,7 @@
 #include <QPageSize>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <stdexcept>
 #include <vector>
 
@@ -43,8 +44,10 @@ struct FontSpec {
     bool operator==(const FontSpec &) const = default;
 };
 
+struct Band;
+
 struct Item {
-    enum Kind { Text, Line, Rect, Barcode };
+    enum Kind { Text, Line, Rect, Barcode, Subreport };
     Kind kind = Text;
     double x = 0, y = 0, w = 0, h = 0;  // Line: from (x, y) to (w, h)
     std::vector<TextPart> parts;        // Text and Barcode
@@ -58,6 +61,12 @@ struct Item {
     QString fill;                       // colour name for a filled rectangle
     Condition when;
     int line = 0;                       // line of the template, for messages
+    // Subreport: the rows of the data set `name` (ReportData::subreports),
+    // each laid out by the band `row` (items relative to the row's corner),
+    // down the first of `columns` columns of the box, then the next.
+    QString name;
+    int columns = 1;
+    std::shared_ptr<Band> row;
 };
 
 enum class BandKind { ReportHeader, PageHeader, GroupHeader, Detail, GroupFooter, PageFooter, ReportFooter };

@@ -1,6 +1,6 @@
 #include "banks/forms/filtrobanco.h"
 
-#include "banks/forms/boletos.h"
+#include "banks/forms/impressaoboletos.h"
 #include "core/conversions.h"
 #include "core/prompter.h"
 #include "core/session.h"
@@ -243,28 +243,23 @@ QStringList frmFiltroImpBoleto::linha(const Recordset &rs) const
 void frmFiltroImpBoleto::cmdImprTot_Click()
 {
     const QStringList lista = recibos();
-    if (lista.isEmpty()) {
-        MsgBox(QStringLiteral("Não há grupo de recibos selecionados, utilize o botão [Selecionar Recibos] !"));
-        return;
-    }
-    Recordset p = cn_.Execute(QStringLiteral("SELECT * FROM Parametros WHERE codigo = 1"));
-    DadosBoleto d;
-    if (!p.eof()) {
-        d.banco = p[QStringLiteral("RBanco")].text();
-        d.carteira = p[QStringLiteral("RitauCart")].text();
-        d.especie = p[QStringLiteral("RitauEsp")].text();
+    ParametrosImpressao p;
+    Recordset par = cn_.Execute(QStringLiteral("SELECT * FROM Parametros WHERE codigo = 1"));
+    if (!par.eof()) {
+        p.banco = par[QStringLiteral("RBanco")].text();
         for (int n = 0; n < 6; ++n)
-            d.instrucoes[size_t(n)] = p[QStringLiteral("Instrubco%1").arg(n + 1)].text();
+            p.instrucoes[size_t(n)] = par[QStringLiteral("Instrubco%1").arg(n + 1)].text();
     }
-    d.dataProc = QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy"));
+    p.dataProc = QDate::currentDate();
+    leParametrosImpressao(cn_, p);
     QStringList codigos;
     for (const QString &r : lista)
         codigos << QStringLiteral("'") + r + QStringLiteral("'");
+    const QString filtro = lista.isEmpty() ? QString()
+                                           : QStringLiteral(" WHERE recibos.situacao = 'A' AND recibos.codigo IN (")
+                                                 + codigos.join(u',') + QStringLiteral(") ORDER BY recibos.codigo ");
     Ampulheta ampulheta;
-    if (!imprimeBoletosDoFiltro(cn_,
-                                QStringLiteral(" WHERE recibos.situacao = 'A' AND recibos.codigo IN (") + codigos.join(u',')
-                                    + QStringLiteral(") ORDER BY recibos.codigo "),
-                                d))
-        MsgBox(QStringLiteral("Não há recibos na seleção estabelecida, selecione e clique [Selecionar] !"), vbOKOnly,
-               QStringLiteral("Atenção !"));
+    ImpressaoBoletos impressao;
+    if (imprimeSelecaoBoletos(cn_, p, filtro, impressao) == FimImpressaoBoleto::Pronto)
+        mostraBoletos(impressao);
 }

@@ -1,7 +1,7 @@
 #include "banks/forms/frmBcoDiversos.h"
 
 #include "banks/demonstrativo.h"
-#include "banks/forms/boletos.h"
+#include "banks/forms/impressaoboletos.h"
 #include "banks/forms/frmGAbre_Arq.h"
 #include "banks/remessa.h"
 #include "core/conversions.h"
@@ -445,56 +445,44 @@ void frmBcoDiversos::cmdGerarR_Click()
     }
 }
 
-bool frmBcoDiversos::imprimeBoletos(const QString &filtro)
+// The print's parameters: the bank, date, instructions and title on the form,
+// the rest as saved.
+ParametrosImpressao frmBcoDiversos::parametrosImpressao()
 {
-    DadosBoleto d;
-    d.banco = ui_->txtRBanco->text();
-    d.carteira = ui_->mskCarteiraR->textoPuro();
-    d.especie = codigoEspecie(d.banco, ui_->cmbEspecieR->currentText());
-    d.dataProc = ui_->tdbDatagR->text();
-    d.titulo = ui_->txtTitulo->text();
-    const TelaBanco t = tela();
-    for (int n = 0; n < 6; ++n)
-        d.instrucoes[n] = t.instrucoes[n];
-    return imprimeBoletosDoFiltro(cn_, filtro, d);
+    ParametrosImpressao p;
+    p.banco = ui_->txtRBanco->text();
+    p.dataProc = ui_->tdbDatagR->data();
+    p.titulo = ui_->txtTitulo->text();
+    p.instrucoes = tela().instrucoes;
+    leParametrosImpressao(cn_, p);
+    return p;
 }
 
 void frmBcoDiversos::cmdImprimir_Click()
 {
-    if (ui_->txtNrRecibo->text().trimmed().isEmpty()) {
-        MsgBox(QStringLiteral("Você não especificou o Número do Recibo !"));
-        return;
-    }
-    const QString numero = ZeroEsq(ui_->txtNrRecibo->text(), 6);
-    Recordset rs = cn_.Execute(QStringLiteral("SELECT * FROM recibos WHERE codigo = '") + numero + QStringLiteral("'"));
-    if (rs.eof()) {
-        MsgBox(QStringLiteral("Recibo Não Localizado, verifique !"));
-        return;
-    }
-    if (rs[QStringLiteral("barrabco")].text().isEmpty() || rs[QStringLiteral("nrbco")].text().isEmpty()
-        || rs[QStringLiteral("lindigbco")].text().isEmpty()) {
-        MsgBox(QStringLiteral("Não foi criado o arquivo de remessa ou não foi calculado o código de Barra !"), vbOKOnly,
-               kAtencao);
-        return;
-    }
-    if (!imprimeBoletos(QStringLiteral(" WHERE recibos.situacao = 'A' AND recibos.codigo = '") + numero
-                        + QStringLiteral("' ORDER BY recibos.codigo ")))
-        MsgBox(QStringLiteral("Recibo selecionado não existe ou já foi baixado !"), vbOKOnly, kAtencao);
+    ImpressaoBoletos impressao;
+    if (imprimeBoleto(cn_, parametrosImpressao(), ui_->txtNrRecibo->text(), impressao) == FimImpressaoBoleto::Pronto)
+        mostraBoletos(impressao);
 }
 
 void frmBcoDiversos::cmdImprTot_Click()
 {
-    if (where_.isEmpty()) {
-        MsgBox(QStringLiteral("Não há grupo de recibos selecionados, utilize o botão [Selecionar Recibos] !"));
+    // Bank 151 computes with the agency this print keeps.
+    if (!where_.isEmpty())
+        agenciaForm_ = ZeroEsq(ui_->txtCodAgR->text(), 4);
+    ImpressaoBoletos impressao;
+    Ampulheta ampulheta;
+    switch (imprimeSelecaoBoletos(cn_, parametrosImpressao(), where_, impressao)) {
+    case FimImpressaoBoleto::Pronto:
+        mostraBoletos(impressao);
+        break;
+    case FimImpressaoBoleto::SemSelecao:
         ui_->sstBco->setCurrentIndex(2);
         ui_->cmdSelRec->setFocus();
-        return;
+        break;
+    default:
+        break;
     }
-    // Bank 151 computes with the agency this print keeps.
-    agenciaForm_ = ZeroEsq(ui_->txtCodAgR->text(), 4);
-    if (!imprimeBoletos(where_))
-        MsgBox(QStringLiteral("Não há recibos na seleção estabelecida, selecione e clique [Selecionar] !"), vbOKOnly,
-               QStringLiteral("Atenção !"));
 }
 
 void frmBcoDiversos::closeEvent(QCloseEvent *event)

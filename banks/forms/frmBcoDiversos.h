@@ -4,6 +4,7 @@
 // receipts with the computation of the slips, the remittance file and the
 // prints (third).
 #include "banks/bcodiversos.h"
+#include "banks/boletoimpressao.h"
 #include "banks/calcbarra.h"
 #include "core/datastore.h"
 
@@ -30,7 +31,7 @@ private:
     void carregaEspecies(const QString &codigoAtual);
     TelaBanco tela() const;
     ParametrosBanco parametrosBanco() const;
-    bool imprimeBoletos(const QString &filtro);
+    ParametrosImpressao parametrosImpressao();
     void mostraProgresso(int feitos, int total);
 
     void txtRBanco_LostFocus();

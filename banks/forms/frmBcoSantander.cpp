@@ -7,6 +7,7 @@
 #include "banks/demonstrativo.h"
 #include "banks/forms/boletos.h"
 #include "banks/forms/frmGAbre_Arq.h"
+#include "banks/forms/impressaoboletos.h"
 #include "core/conversions.h"
 #include "core/prompter.h"
 #include "core/session.h"
@@ -14,16 +15,10 @@
 #include "core/validators.h"
 #include "core/widgets/keyboard.h"
 #include "core/widgets/modal.h"
-#include "reporting/imprime.h"
 #include "ui_frmBcoSantander.h"
 
 namespace {
 const QString kAtencao = QStringLiteral("Atenção...");
-
-QString dataTexto(const Field &f)
-{
-    return f.isNull() ? QString() : f.toDate().toString(QStringLiteral("dd/MM/yyyy"));
-}
 }
 
 frmBcoSantander::frmBcoSantander(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmBcoSantander>())
@@ -162,47 +157,19 @@ void frmBcoSantander::cmdImprimir_Click()
         MsgBox(QStringLiteral("Não foi gerado o arquivo de remessa deste recibo, confira !"), vbOKOnly, kAtencao);
         return;
     }
-    ReportData d;
-    d.columns = {QStringLiteral("codigo"), QStringLiteral("codap"), QStringLiteral("lindigbco"), QStringLiteral("barrabco"),
-                 QStringLiteral("nrbco")};
-    d.rows.push_back({lido[QStringLiteral("codigo")].text(), lido[QStringLiteral("codap")].text(),
-                      lido[QStringLiteral("lindigbco")].text(), lido[QStringLiteral("barrabco")].text(),
-                      lido[QStringLiteral("nrbco")].text()});
-    d.title = ui_->txtTitulo->text();
-    const QString nr = lido[QStringLiteral("nrbco")].text();
-    d.setFormula(QStringLiteral("Vencto"), dataTexto(lido[QStringLiteral("dvencto")]));
-    d.setFormula(QStringLiteral("NumDoc"), numero);
-    d.setFormula(QStringLiteral("Valor"), formatMoney(lido[QStringLiteral("vtotal")].toMoney(), QStringLiteral("#,###,##0.00")));
-    d.setFormula(QStringLiteral("DataDoc"), dataTexto(rec[QStringLiteral("demis")]));
-    Recordset par = cn_.Execute(QStringLiteral("SELECT RitauCd,RitauAg,RitauCc,RitauCart,ritaunn,RitauEsp FROM Parametros Where Codigo = 1"));
-    d.setFormula(QStringLiteral("Cedente"), par[QStringLiteral("RitauCd")].text());
-    d.setFormula(QStringLiteral("AgConta"), par[QStringLiteral("RitauAg")].text() + QStringLiteral("/")
-                                                + formatText(par[QStringLiteral("RitauCc")].text(), QStringLiteral("@@@@@@")));
-    d.setFormula(QStringLiteral("Carteira"), carteira == u"102" ? QStringLiteral("COBRANCA SIMPLES - CSR")
-                                                                : QStringLiteral("COBRANCA SIMPLES - ECR"));
-    d.setFormula(QStringLiteral("EspecieDoc"), par[QStringLiteral("RitauEsp")].text());
-    d.setFormula(QStringLiteral("NossoNr"), nr.left(8) + QStringLiteral("-") + nr.right(1));
-    Recordset ap = cn_.Execute(QStringLiteral("SELECT nome,cpfpro,Enderecopro,Numeropro,Complementopro,Ceppro,bairropro,"
-                                              "Cidadepro,Ufpro FROM Aptos WHERE codigo = '")
-                               + lido[QStringLiteral("codap")].text() + QStringLiteral("'"));
-    const auto apto = [&](const char *c) { return ap.eof() ? QString() : ap[QString::fromLatin1(c)].text(); };
-    const QString cep = apto("Ceppro"), cpf = apto("cpfpro");
-    d.setFormula(QStringLiteral("Nome"), apto("nome"));
-    d.setFormula(QStringLiteral("Cpf"), cpf == u"___.___.___-__" ? QString() : cpf);
-    d.setFormula(QStringLiteral("End"), apto("Enderecopro") + QStringLiteral(", ") + apto("Numeropro") + QStringLiteral(" ")
-                                            + apto("Complementopro"));
-    d.setFormula(QStringLiteral("Cep"), cep == u"_____-___" ? QString() : cep);
-    d.setFormula(QStringLiteral("Bairro"), apto("bairropro"));
-    d.setFormula(QStringLiteral("Cid"), apto("Cidadepro"));
-    d.setFormula(QStringLiteral("Uf"), apto("Ufpro"));
-    d.setFormula(QStringLiteral("DataProc"), ui_->tdbDatagR->text());
+    // The slip of banks/boletoimpressao on BolRelSantander.rpt: the wallet of
+    // the form, the account in six places and five instruction lines.
+    ParametrosImpressao impressao;
+    impressao.banco = QStringLiteral("353");
+    impressao.dataProc = ui_->tdbDatagR->data();
+    impressao.titulo = ui_->txtTitulo->text();
     Recordset instru = cn_.Execute(QStringLiteral("SELECT * FROM Parametros WHERE codigo = 1"));
-    for (int n = 1; n <= 5 && !instru.eof(); ++n)
-        d.setFormula(QStringLiteral("Instru%1").arg(n), instru[QStringLiteral("Instrubco%1").arg(n)].text());
-    d.setFormula(QStringLiteral("Titu"), ui_->txtTitulo->text());
-    for (int n = 0; n < int(session.demonstrativo.size()); ++n)
-        d.setFormula(QStringLiteral("Linha%1").arg(n, 3, 10, QChar(u'0')), session.demonstrativo[size_t(n)]);
-    MostraRelatorio(QStringLiteral("BolRelSantander.rpt"), std::move(d));
+    for (int n = 0; n < 5 && !instru.eof(); ++n)
+        impressao.instrucoes[size_t(n)] = instru[QStringLiteral("Instrubco%1").arg(n + 1)].text();
+    leParametrosImpressao(cn_, impressao);
+    impressao.carteira = carteira;
+    impressao.conta = formatText(impressao.conta, QStringLiteral("@@@@@@"));
+    mostraBoletos(montaBoletos(cn_, impressao, filtroUmRecibo(numero)));
 }
 
 void frmBcoSantander::cmdTrocatxt_Click()

@@ -3,6 +3,7 @@
 #include "accounting/balancete.h"
 #include "banks/bcodiversos.h"
 #include "banks/forms/boletos.h"
+#include "banks/forms/impressaoboletos.h"
 #include "banks/demonstrativo.h"
 #include "core/conversions.h"
 #include "core/extenso.h"
@@ -22,13 +23,6 @@ const QString kAtencao = QStringLiteral("Atenção...");
 QString dataTexto(const Field &f)
 {
     return f.isNull() ? QString() : f.toDate().toString(QStringLiteral("dd/MM/yyyy"));
-}
-
-// The statement buffer as the slip's formulas Linha000 .. Linha121.
-void formulasDoDemonstrativo(ReportData &d)
-{
-    for (int n = 0; n < int(session.demonstrativo.size()); ++n)
-        d.setFormula(QStringLiteral("Linha%1").arg(n, 3, 10, QChar(u'0')), session.demonstrativo[size_t(n)]);
 }
 }
 
@@ -195,6 +189,6 @@ void frmBoleto::cmdImprimir_Click()
         d.setFormula(QStringLiteral("Instru%1").arg(n), instru[QStringLiteral("Instrubco%1").arg(n)].text());
     d.setFormula(QStringLiteral("DataProc"), QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")));
     d.setFormula(QStringLiteral("Titu"), ui_->txtTitulo->text());
-    formulasDoDemonstrativo(d);
+    demonstrativoNoRelatorio(d);
     MostraRelatorio(QStringLiteral("BalRec.rpt"), std::move(d));
 }

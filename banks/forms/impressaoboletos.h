@@ -4,6 +4,26 @@
 #include "banks/boletoimpressao.h"
 #include "reporting/imprime.h"
 
+// The statement's lines as the rows of the slip's sub-report.
+inline void poeDemonstrativo(ReportData &d, const QStringList &linhas)
+{
+    SubreportData &sub = d.subreports[kSubDemonstrativo];
+    sub.columns = {QStringLiteral("Linha")};
+    sub.rows.clear();
+    sub.rows.reserve(size_t(linhas.size()));
+    for (const QString &l : linhas)
+        sub.rows.push_back({l});
+}
+
+// The session's statement on a print that builds its own data (frmBoleto):
+// the formulas Linha000 .. Linha121 and the sub-report's rows.
+inline void demonstrativoNoRelatorio(ReportData &d)
+{
+    for (const auto &f : formulasDemonstrativo())
+        d.setFormula(f.first, f.second);
+    poeDemonstrativo(d, linhasDemonstrativo());
+}
+
 inline ReportData dadosRelatorio(const ImpressaoBoletos &impressao)
 {
     ReportData d;
@@ -12,6 +32,7 @@ inline ReportData dadosRelatorio(const ImpressaoBoletos &impressao)
     d.title = impressao.titulo;
     for (const auto &f : impressao.formulas)
         d.setFormula(f.first, f.second);
+    poeDemonstrativo(d, impressao.demonstrativo);
     return d;
 }
 

@@ -19,9 +19,18 @@
 # Files a run writes are compared with what the support console makes from
 # the same database (paths relative to the run's folder):
 #   "# snapshot: FILE COPY"  before the run, copies FILE to COPY;
+#   "# remove: FILE"         before the run, removes FILE (a text taken away
+#                            between two sessions);
 #   "# habtool: ARGS"        after the run, runs habtool ARGS; adds "HABTOOL exit N";
 #   "# same: A B"            then adds "SAME A B" when the two files are equal
 #                            byte for byte, "DIFFERENT A B" when not.
+#   "# barcodes: NAME.pdf DB" after the run, each page of that PDF (of the --pdf
+#                            folder) rendered at 300 dpi (pdftoppm) and its bar
+#                            code read by zbarimg; adds per page "BARCODE NAME.pdf
+#                            page N recibo CODE: D dígitos, linha digitável na
+#                            página" when the digits are the bar code of receipt
+#                            CODE in DB and the page's text holds that receipt's
+#                            typed line; anything else is said as it is.
 # A "# writes:" file whose name ends in .pdf must be a PDF; any other must exist.
 cmake_minimum_required(VERSION 3.25)
 
@@ -30,6 +39,42 @@ function(fenced text tag out)
   string(FIND "${CMAKE_MATCH_1}" "```" end)
   string(SUBSTRING "${CMAKE_MATCH_1}" 0 ${end} body)
   set(${out} "${body}" PARENT_SCOPE)
+endfunction()
+
+# The slips of a PDF against the receipts of a database (see "# barcodes:").
+function(read_barcodes name db)
+  set(pdf "${WORK}/pdf/${name}")
+  execute_process(COMMAND pdfinfo "${pdf}" OUTPUT_VARIABLE info RESULT_VARIABLE rc ERROR_QUIET)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "${pdf} was not written or is not a PDF")
+  endif()
+  string(REGEX MATCH "Pages: *([0-9]+)" _ "${info}")
+  set(out "")
+  foreach(page RANGE 1 ${CMAKE_MATCH_1})
+    execute_process(COMMAND pdftoppm -r 300 -gray -png -f ${page} -l ${page} -singlefile "${pdf}" "${WORK}/barcode")
+    execute_process(COMMAND zbarimg --raw -q "${WORK}/barcode.png" OUTPUT_VARIABLE digits
+                    OUTPUT_STRIP_TRAILING_WHITESPACE)
+    execute_process(COMMAND pdftotext -f ${page} -l ${page} "${pdf}" - OUTPUT_VARIABLE text)
+    file(WRITE "${WORK}/barcode.sql" "SELECT codigo,lindigbco FROM Recibos WHERE barrabco = '${digits}'\n")
+    execute_process(COMMAND "${HABTOOL}" sql "${WORK}/${db}" INPUT_FILE "${WORK}/barcode.sql" OUTPUT_VARIABLE rows)
+    set(found "")
+    if(digits MATCHES "^[0-9]+$" AND rows MATCHES "\n([0-9]+)\t([^\n]+)")
+      set(found "${CMAKE_MATCH_1}")
+      set(typed "${CMAKE_MATCH_2}")
+    endif()
+    string(LENGTH "${digits}" length)
+    if(found STREQUAL "")
+      string(APPEND out "BARCODE ${name} page ${page}: lido \"${digits}\", de nenhum recibo\n")
+    else()
+      string(FIND "${text}" "${typed}" at)
+      if(at EQUAL -1)
+        string(APPEND out "BARCODE ${name} page ${page} recibo ${found}: ${length} dígitos, linha digitável ausente\n")
+      else()
+        string(APPEND out "BARCODE ${name} page ${page} recibo ${found}: ${length} dígitos, linha digitável na página\n")
+      endif()
+    endif()
+  endforeach()
+  set(barcodes_out "${out}" PARENT_SCOPE)
 endfunction()
 
 file(REMOVE_RECURSE "${WORK}")
@@ -85,11 +130,16 @@ while(NOT rest STREQUAL "")
     list(GET pair 1 to)
     file(COPY_FILE "${WORK}/${from}" "${WORK}/${to}")
   endforeach()
+  string(REGEX MATCHALL "(^|\n)# remove: [^\n]*" removals "${run}")
+  foreach(line ${removals})
+    string(REGEX REPLACE "^\n?# remove: *" "" gone "${line}")
+    file(REMOVE "${WORK}/${gone}")
+  endforeach()
   execute_process(COMMAND "${HABDRIVE}" "${WORK}/demo" "${script_file}" ${args}
                   WORKING_DIRECTORY "${WORK}" RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
   string(APPEND actual "${out}exit ${rc}\n")
   string(APPEND errors "${err}")
-  string(REGEX MATCHALL "(^|\n)# (habtool|same): [^\n]*" afterwards "${run}")
+  string(REGEX MATCHALL "(^|\n)# (habtool|same|barcodes): [^\n]*" afterwards "${run}")
   foreach(line ${afterwards})
     if(line MATCHES "# habtool: *(.*)")
       separate_arguments(targs UNIX_COMMAND "${CMAKE_MATCH_1}")
@@ -105,6 +155,9 @@ while(NOT rest STREQUAL "")
       else()
         string(APPEND actual "DIFFERENT ${CMAKE_MATCH_1} ${CMAKE_MATCH_2}\n")
       endif()
+    elseif(line MATCHES "# barcodes: *([^ ]+) +([^ ]+)")
+      read_barcodes("${CMAKE_MATCH_1}" "${CMAKE_MATCH_2}")
+      string(APPEND actual "${barcodes_out}")
     endif()
   endforeach()
 endwhile()

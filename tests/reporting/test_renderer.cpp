@@ -153,6 +153,43 @@ TEST(ReportRenderer, MissingFieldsAndFormulasPrintEmptyAndAreNotedOnce)
                                     QStringLiteral("Fórmula sem valor: Ausente")}));
 }
 
+// A sub-report's rows go down its first column, then the next, on every
+// page; fields are the sub-report's columns, formulas the print's; rows past
+// the last column and a sub-report without data are noted.
+TEST(ReportRenderer, SubreportRowsFlowDownThenAcrossOnEveryPage)
+{
+    const ReportTemplate t = tpl(QStringLiteral(
+        "band detail height=30\n"
+        "  text 0 0 20 5 \"{codigo}\"\n"
+        "  subreport 10 10 100 6 \"Extrato\" height=2 columns=2 when {codigo}\n"
+        "    text 1 0 40 2 \"{Linha} {@Sufixo}\"\n"
+        "  end\n"
+        "end\n"));
+    ReportData d;
+    d.columns = {QStringLiteral("codigo")};
+    d.rows = {{"1"}, {"2"}};
+    d.setFormula(QStringLiteral("Sufixo"), QStringLiteral("!"));
+    SubreportData &sub = d.subreports[QStringLiteral("Extrato")];
+    sub.columns = {QStringLiteral("Linha")};
+    for (const char *l : {"a", "b", "c", "d", "e", "f", "g"})
+        sub.rows.push_back({QString::fromLatin1(l)});
+    const ReportDocument doc = renderReport(t, d);
+    EXPECT_EQ(pageTexts(doc, 0), (QStringList{"1", "a !", "b !", "c !", "d !", "e !", "f !", "2", "a !", "b !", "c !", "d !", "e !", "f !"}));
+    const auto at = [&](const QString &text) {
+        for (const DrawOp &op : doc.pages[0].ops)
+            if (op.text == text)
+                return op.rect.topLeft();
+        return QPointF(-1, -1);
+    };
+    EXPECT_EQ(at(QStringLiteral("a !")), QPointF(10 + 10 + 1, 10 + 10));
+    EXPECT_EQ(at(QStringLiteral("c !")), QPointF(10 + 10 + 1, 10 + 10 + 4));
+    EXPECT_EQ(at(QStringLiteral("d !")), QPointF(10 + 60 + 1, 10 + 10));
+    EXPECT_EQ(doc.log, QStringList{QStringLiteral("Sub-relatório Extrato: 1 linha(s) além do espaço")});
+
+    d.subreports.clear();
+    EXPECT_EQ(renderReport(t, d).log, QStringList{QStringLiteral("Sub-relatório sem dados: Extrato")});
+}
+
 TEST(ReportRenderer, GrowingTextWrapsAndPushesTheBand)
 {
     const ReportTemplate t = tpl(QStringLiteral(

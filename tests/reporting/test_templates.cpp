@@ -175,9 +175,12 @@ TEST(ShippedTemplates, ItauSlipCarriesTheStatementTypedLineAndAReadableBarCode)
     for (const char *f : {"Cedente", "AgConta", "Carteira", "EspecieDoc", "NossoNr", "DataProc", "Instru1", "Instru2", "Instru3",
                           "Instru4", "Instru5", "Instru6", "Titu"})
         d.setFormula(QString::fromLatin1(f), QString::fromLatin1(f) == QLatin1String("Cedente") ? "Condomínio Solar" : "");
+    // The statement's 122 lines fill both columns of its sub-report.
+    SubreportData &demonstrativo = d.subreports["BalRecItau"];
+    demonstrativo.columns = {"Linha"};
     for (int i = 0; i < 122; ++i)
-        d.setFormula(QStringLiteral("Linha%1").arg(i, 3, 10, QChar(u'0')), i == 1 ? "DEMONSTRATIVO MENSAL REFERENTE Fevereiro/2008"
-                                                                          : i == 121 ? "Última linha do demonstrativo" : "");
+        demonstrativo.rows.push_back({i == 1 ? "DEMONSTRATIVO MENSAL REFERENTE Fevereiro/2008"
+                                      : i == 121 ? "Última linha do demonstrativo" : ""});
     d.setFormula("uEmpat", "12");
     d.setFormula("uNempat", "Solar");
     d.setFormula("gClient", "Tevora");
