@@ -455,6 +455,8 @@ ParametrosImpressao frmBcoDiversos::parametrosImpressao()
     p.titulo = ui_->txtTitulo->text();
     p.instrucoes = tela().instrucoes;
     leParametrosImpressao(cn_, p);
+    // The wallet is the one on the form, the one the slips were computed with.
+    p.carteira = ui_->mskCarteiraR->textoPuro();
     return p;
 }
 

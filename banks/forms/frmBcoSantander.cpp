@@ -101,7 +101,9 @@ void frmBcoSantander::mskCarteiraR_Change()
 
 void frmBcoSantander::mskNnumero_Change()
 {
-    ui_->lblDacR->setText(Modulo10(ZeroEsq(ui_->txtCodAgR->text(), 4) + ZeroEsq(ui_->mskCcR->textoPuro(), 5)
+    // The account has six places: its left five, as the print's check takes them
+    // (filled to five, six digits would be refused).
+    ui_->lblDacR->setText(Modulo10(ZeroEsq(ui_->txtCodAgR->text(), 4) + ZeroEsq(ui_->mskCcR->textoPuro().left(5), 5)
                                    + ZeroEsq(ui_->mskCarteiraR->textoPuro(), 3) + ui_->mskNnumero->textoPuro()));
 }
 

@@ -166,7 +166,7 @@ TEST(ReportTemplate, ErrorsNameTheFileAndTheLine)
               QStringLiteral("Modelo de relatório Teste.rpt, linha 2: band detail sem height="));
     EXPECT_EQ(errorOf(QStringLiteral("page 100 50\nfont \"Sans\" 9\nmargins 10 30 10 30\nband detail height=5\nend\n")),
               QStringLiteral("Modelo de relatório Teste.rpt, linha 3: as margens não deixam espaço na página"));
-    EXPECT_EQ(errorOf(QStringLiteral("band detail height=5\n subreport 0 0 5 5 \"S\" height=1\n text 0 0 5 1 \"x\"\nend\n")),
+    EXPECT_EQ(errorOf(QStringLiteral("band detail height=5\n subreport 0 0 5 5 \"S\" height=1\n text 0 0 5 1 \"x\"\n")),
               QStringLiteral("Modelo de relatório Teste.rpt, linha 2: subreport sem \"end\""));
     EXPECT_TRUE(errorOf(QStringLiteral("end\n")).contains(QStringLiteral("linha 1")));
     EXPECT_TRUE(errorOf(QStringLiteral("labels columns=2 width=10 height=10\nband pageheader height=5\nend\n"))
