@@ -87,6 +87,7 @@ public:
 
     // The first row of a read, its columns as "a|b|c" (leLinha).
     QString linha(const QString &sql) const { return leLinha(session.conAtiva, sql); }
+    QString linhas(const QString &sql) const { return leLinhas(session.conAtiva, sql); }
     // One value of one row, as text.
     QString valor(const QString &sql, const char *coluna)
     {
