@@ -57,8 +57,7 @@ void frmMov_Atualiza::cmdAtualiza_Click()
     }
     const QString tabela = tabelaDoAno(texto);
     if (!existeTabelaAno(cn_, tabela)) {
-        MsgBox(QStringLiteral("Não há tabela de lançamentos do ano %1 (%2) neste condomínio: os lançamentos vão de 2000 a 2008 !")
-                   .arg(texto.right(4), tabela),
+        MsgBox(semTabelaDoAno(texto.right(4)),
                vbExclamation, QStringLiteral("Atenção..."));
         tdbAnomesfim_->setFocus();
         return;
