@@ -6,6 +6,9 @@
 #include "accounting/forms/frmMov_BalctP.h"
 #include "accounting/forms/frmMovSaldini.h"
 #include "accounting/forms/frmMovpo.h"
+#include "accounting/forms/frmRBalancetes.h"
+#include "accounting/forms/frmRLanctos.h"
+#include "accounting/forms/frmRRazao.h"
 #include "banks/forms/filtrobanco.h"
 #include "banks/forms/frmBcoDiversos.h"
 #include "banks/forms/frmBcoSantander.h"
@@ -78,6 +81,9 @@ void registerAllForms()
     registerForm<frmMovSaldini>(FormKind::Child);
     registerForm<frmMovpo>(FormKind::Child);
     registerForm<frmMov_BalctP>(FormKind::Child);
+    registerForm<frmRBalancetes>(FormKind::Child);
+    registerForm<frmRRazao>(FormKind::Child);
+    registerForm<frmRLanctos>(FormKind::Child);
     registerForm<frmBcoDiversos>(FormKind::Child);
     registerForm<frmCriaTxt>(FormKind::Child);
     registerForm<frmGAbre_Arq>(FormKind::Dialog);
@@ -113,9 +119,6 @@ void registerAllForms()
 QStringList formsToCome()
 {
     return {
-        // Accounting
-        QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
-        QStringLiteral("frmRLanctos"),
         // Billing
         QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),

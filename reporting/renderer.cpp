@@ -365,6 +365,10 @@ void Layout::place(const Band *band, double keepWith)
 {
     if (!band || !holds(band->when, band->group))
         return;
+    if (band->newPage && pageHasBody_) {
+        closePage();
+        startPage();
+    }
     double h = 0;
     auto items = prepare(*band, h);
     // A band never splits: it goes whole to the next page. One taller than a

@@ -306,6 +306,8 @@ void Parser::parseBand(const std::vector<Token> &tokens)
                 fail(QStringLiteral("height não pode ser negativa"));
             temAltura = true;
         }
+        else if (key == QLatin1String("newpage") && value.isEmpty())
+            b.newPage = true;
         else
             fail(QStringLiteral("opção desconhecida em band: \"%1\"").arg(tokens[i].text));
     }

@@ -66,6 +66,7 @@ struct Band {
     BandKind kind = BandKind::Detail;
     int group = -1;                     // group headers and footers: index in ReportTemplate::groups
     double height = 0;
+    bool newPage = false;               // starts a page of its own (a group header: each group on new pages)
     Condition when;
     std::vector<Item> items;
     int line = 0;
