@@ -37,6 +37,8 @@ frmPesqRec::frmPesqRec(QWidget *parent) : QDialog(parent), ui_(std::make_unique<
     }
     Money total;
     Recordset rs = cn_.Execute(session.sql);
+    // The list of a unit's debts (frmTEleitor) brings no bank number.
+    const bool comNrbco = rs.columnNames().contains(QStringLiteral("nrbco"), Qt::CaseInsensitive);
     while (!rs.eof()) {
         const QString codap = rs[QStringLiteral("codap")].text();
         Recordset ap = cn_.Execute(QStringLiteral("SELECT nome FROM aptos WHERE codigo = '") + codap + QStringLiteral("'"));
@@ -44,7 +46,7 @@ frmPesqRec::frmPesqRec(QWidget *parent) : QDialog(parent), ui_(std::make_unique<
         total += valor;
         m->adiciona({rs[QStringLiteral("codigo")].text(), rs[QStringLiteral("demis")].text(),
                      rs[QStringLiteral("dvencto")].text(), rs[QStringLiteral("drecbto")].text(), codap,
-                     rs[QStringLiteral("tipcob")].text(), rs[QStringLiteral("nrbco")].text(),
+                     rs[QStringLiteral("tipcob")].text(), comNrbco ? rs[QStringLiteral("nrbco")].text() : QString(),
                      ap.eof() ? QString() : ap[QStringLiteral("nome")].text(),
                      formatMoney(valor, QStringLiteral("R$ ######,##0.00"))});
         rs.moveNext();

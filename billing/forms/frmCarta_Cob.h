@@ -1,0 +1,22 @@
+#pragma once
+// Collection letters: the open receipts of a unit (or of every unit in debt)
+// due in a period, printed on a Carta*.rpt layout the clerk chooses.
+#include "core/datastore.h"
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui { class frmCarta_Cob; }
+
+class frmCarta_Cob : public QWidget {
+    Q_OBJECT
+public:
+    explicit frmCarta_Cob(QWidget *parent = nullptr);
+    ~frmCarta_Cob() override;
+
+    void cmdImprimir_Click();
+
+private:
+    std::unique_ptr<Ui::frmCarta_Cob> ui_;
+    Connection cn_;
+};
