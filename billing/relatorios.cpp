@@ -115,18 +115,11 @@ QString periodoConarec(const FiltroConarec &f)
 QString tituloConarec(const FiltroConarec &f)
 {
     QString s;
-    switch (f.situacao) {
-    case SituacaoConarec::Abertos:
-        s = QStringLiteral("Recibos em Aberto");
-        break;
-    case SituacaoConarec::Baixados:
-        s = QStringLiteral("Recibos Baixados");
-        break;
-    case SituacaoConarec::BaixadosApos:
+    if (f.situacao == SituacaoConarec::BaixadosApos)
         s = QStringLiteral("Recibos Baixados após ") + textoData(f.baixaApos)
             + (f.comAbertos ? QStringLiteral(" e em Aberto") : QString());
-        break;
-    }
+    else
+        s = tituloSituacao(f.situacao == SituacaoConarec::Abertos ? u'A' : u'B');
     return s + QStringLiteral(" - ") + nomesDosTipos(f.tipos);
 }
 

@@ -14,7 +14,7 @@
 
 static const QString kTitulo = QStringLiteral("Carta de Cobrança");
 
-frmCarta_Cob::frmCarta_Cob(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmCarta_Cob>())
+frmCarta_Cob::frmCarta_Cob(QWidget *parent) : FormImpressao(parent), ui_(std::make_unique<Ui::frmCarta_Cob>())
 {
     ui_->setupUi(this);
     ui_->tdbInicio->setFormato(DateField::MesAno);
@@ -24,12 +24,7 @@ frmCarta_Cob::frmCarta_Cob(QWidget *parent) : QWidget(parent), ui_(std::make_uni
         ui_->cmdPesqAp->setEnabled(!todos);
     });
     ligaCampoApto(cn_, ui_->mskCodAp, ui_->cmdPesqAp, ui_->lblNome);
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmCarta_Cob::cmdImprimir_Click);
-    connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
-    aplicaTeclado(*this);
-
-    cn_.ConnectionTimeout = 100;
-    cn_.Open(session.conAtiva);
+    liga();
     const CartaCobranca c = leCarta(cn_);
     ui_->txtTitulo->setText(c.titulo);
     ui_->txtLocal->setText(c.local);
@@ -37,11 +32,7 @@ frmCarta_Cob::frmCarta_Cob(QWidget *parent) : QWidget(parent), ui_(std::make_uni
     ui_->tdbFim->setText(c.fim);
 }
 
-frmCarta_Cob::~frmCarta_Cob()
-{
-    if (cn_.State() == 1)
-        cn_.Close();
-}
+frmCarta_Cob::~frmCarta_Cob() = default;
 
 void frmCarta_Cob::cmdImprimir_Click()
 {

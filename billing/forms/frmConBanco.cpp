@@ -10,23 +10,14 @@
 #include "reporting/imprime.h"
 #include "ui_frmConBanco.h"
 
-frmConBanco::frmConBanco(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmConBanco>())
+frmConBanco::frmConBanco(QWidget *parent) : FormImpressao(parent), ui_(std::make_unique<Ui::frmConBanco>())
 {
     ui_->setupUi(this);
     ui_->optT->setChecked(true);
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmConBanco::cmdImprimir_Click);
-    connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
-    aplicaTeclado(*this);
-
-    cn_.ConnectionTimeout = 100;
-    cn_.Open(session.conAtiva);
+    liga();
 }
 
-frmConBanco::~frmConBanco()
-{
-    if (cn_.State() == 1)
-        cn_.Close();
-}
+frmConBanco::~frmConBanco() = default;
 
 void frmConBanco::cmdImprimir_Click()
 {

@@ -1,21 +1,19 @@
 #pragma once
 // Receipts sent to one bank, one line each (ConBanco.rpt).
-#include "core/datastore.h"
+#include "billing/forms/relatoriofin.h"
 
-#include <QWidget>
 #include <memory>
 
 namespace Ui { class frmConBanco; }
 
-class frmConBanco : public QWidget {
+class frmConBanco : public FormImpressao {
     Q_OBJECT
 public:
     explicit frmConBanco(QWidget *parent = nullptr);
     ~frmConBanco() override;
 
-    void cmdImprimir_Click();
+    void cmdImprimir_Click() override;
 
 private:
     std::unique_ptr<Ui::frmConBanco> ui_;
-    Connection cn_;
 };

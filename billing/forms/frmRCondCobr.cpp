@@ -11,24 +11,15 @@
 
 #include <QRegularExpressionValidator>
 
-frmRCondCobr::frmRCondCobr(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmRCondCobr>())
+frmRCondCobr::frmRCondCobr(QWidget *parent) : FormImpressao(parent), ui_(std::make_unique<Ui::frmRCondCobr>())
 {
     ui_->setupUi(this);
     ui_->optA->setChecked(true);
     ui_->txtLocal->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this));
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmRCondCobr::cmdImprimir_Click);
-    connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
-    aplicaTeclado(*this);
-
-    cn_.ConnectionTimeout = 100;
-    cn_.Open(session.conAtiva);
+    liga();
 }
 
-frmRCondCobr::~frmRCondCobr()
-{
-    if (cn_.State() == 1)
-        cn_.Close();
-}
+frmRCondCobr::~frmRCondCobr() = default;
 
 void frmRCondCobr::cmdImprimir_Click()
 {

@@ -1,21 +1,19 @@
 #pragma once
 // Receipts of one place of collection summed by unit (ConCob.rpt).
-#include "core/datastore.h"
+#include "billing/forms/relatoriofin.h"
 
-#include <QWidget>
 #include <memory>
 
 namespace Ui { class frmRCondCobr; }
 
-class frmRCondCobr : public QWidget {
+class frmRCondCobr : public FormImpressao {
     Q_OBJECT
 public:
     explicit frmRCondCobr(QWidget *parent = nullptr);
     ~frmRCondCobr() override;
 
-    void cmdImprimir_Click();
+    void cmdImprimir_Click() override;
 
 private:
     std::unique_ptr<Ui::frmRCondCobr> ui_;
-    Connection cn_;
 };

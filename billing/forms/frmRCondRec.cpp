@@ -11,7 +11,7 @@
 
 static const QString kTitulo = QStringLiteral("Condomínio a Receber por Entrada");
 
-frmRCondRec::frmRCondRec(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmRCondRec>())
+frmRCondRec::frmRCondRec(QWidget *parent) : FormImpressao(parent), ui_(std::make_unique<Ui::frmRCondRec>())
 {
     ui_->setupUi(this);
     // Conarec.rpt reads the work table from the file of condominium 1: in any
@@ -30,19 +30,10 @@ frmRCondRec::frmRCondRec(QWidget *parent) : QWidget(parent), ui_(std::make_uniqu
     for (QRadioButton *o : {ui_->optA, ui_->optB, ui_->optR})
         connect(o, &QRadioButton::toggled, this, apos);
     apos();
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmRCondRec::cmdImprimir_Click);
-    connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
-    aplicaTeclado(*this);
-
-    cn_.ConnectionTimeout = 100;
-    cn_.Open(session.conAtiva);
+    liga();
 }
 
-frmRCondRec::~frmRCondRec()
-{
-    if (cn_.State() == 1)
-        cn_.Close();
-}
+frmRCondRec::~frmRCondRec() = default;
 
 void frmRCondRec::cmdImprimir_Click()
 {

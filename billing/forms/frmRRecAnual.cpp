@@ -11,26 +11,17 @@
 
 #include <QDate>
 
-frmRRecAnual::frmRRecAnual(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmRRecAnual>())
+frmRRecAnual::frmRRecAnual(QWidget *parent) : FormImpressao(parent), ui_(std::make_unique<Ui::frmRRecAnual>())
 {
     ui_->setupUi(this);
     ui_->tdbAno->setFormato(DateField::Ano);
     ui_->tdbAno->setData(QDate(QDate::currentDate().year(), 1, 1));
     ui_->cmbOrdem->addItems(ordensAnual());
     ui_->optT->setChecked(true);
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmRRecAnual::cmdImprimir_Click);
-    connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
-    aplicaTeclado(*this);
-
-    cn_.ConnectionTimeout = 100;
-    cn_.Open(session.conAtiva);
+    liga();
 }
 
-frmRRecAnual::~frmRRecAnual()
-{
-    if (cn_.State() == 1)
-        cn_.Close();
-}
+frmRRecAnual::~frmRRecAnual() = default;
 
 void frmRRecAnual::cmdImprimir_Click()
 {

@@ -11,7 +11,7 @@
 #include "reporting/imprime.h"
 #include "ui_frmTEleitor.h"
 
-frmTEleitor::frmTEleitor(QWidget *parent) : QWidget(parent), ui_(std::make_unique<Ui::frmTEleitor>())
+frmTEleitor::frmTEleitor(QWidget *parent) : FormImpressao(parent), ui_(std::make_unique<Ui::frmTEleitor>())
 {
     ui_->setupUi(this);
     connect(ui_->optTodos, &QRadioButton::toggled, this, [this](bool todos) {
@@ -20,23 +20,14 @@ frmTEleitor::frmTEleitor(QWidget *parent) : QWidget(parent), ui_(std::make_uniqu
     });
     ui_->optSel->setChecked(true);
     ligaCampoApto(cn_, ui_->mskCodAp, ui_->cmdPesqAp, ui_->lblNome);
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmTEleitor::cmdImprimir_Click);
-    connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
-    aplicaTeclado(*this);
-
-    cn_.ConnectionTimeout = 100;
-    cn_.Open(session.conAtiva);
+    liga();
     const TituloEleitor t = leTitulo(cn_);
     ui_->txtTit0->setText(t.tit0);
     ui_->txtTit1->setText(t.tit1);
     ui_->tdbVcba->setText(t.vcba);
 }
 
-frmTEleitor::~frmTEleitor()
-{
-    if (cn_.State() == 1)
-        cn_.Close();
-}
+frmTEleitor::~frmTEleitor() = default;
 
 void frmTEleitor::cmdImprimir_Click()
 {

@@ -7,6 +7,7 @@
 #include "core/session.h"
 #include "core/widgets/datefield.h"
 #include "core/widgets/keyboard.h"
+#include "core/widgets/modal.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -31,6 +32,22 @@ bool marcado(const QWidget &form, const char *nome)
     return b && b->isChecked();
 }
 } // namespace
+
+FormImpressao::~FormImpressao()
+{
+    if (cn_.State() == 1)
+        cn_.Close();
+}
+
+void FormImpressao::liga()
+{
+    connect(findChild<QPushButton *>(QStringLiteral("cmdImprimir")), &QPushButton::clicked, this,
+            [this] { cmdImprimir_Click(); });
+    connect(findChild<QPushButton *>(QStringLiteral("cmdSair")), &QPushButton::clicked, this, [this] { fechaForm(*this); });
+    aplicaTeclado(*this);
+    cn_.ConnectionTimeout = 100;
+    cn_.Open(session.conAtiva);
+}
 
 TiposTotal tiposDoForm(const QWidget &form)
 {

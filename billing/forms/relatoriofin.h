@@ -1,17 +1,34 @@
 #pragma once
-// What the billing print forms do alike with their controls: the type boxes
-// chkH, chkR, chkT, chkD; the state options optA, optB, optT; a period of two
-// date fields; a unit's code with its search and its owner's name.
+// What the billing print forms (letters, voter's cards, the four reports) do
+// alike: their connection and buttons; the type boxes chkH, chkR, chkT, chkD;
+// the state options optA, optB, optT; a period of two date fields; a unit's
+// code with its search and its owner's name.
 #include "billing/relatorios.h"
+#include "core/datastore.h"
 
 #include <QDate>
 #include <QWidget>
 
-class Connection;
 class DateField;
 class MaskEdit;
 class QLabel;
 class QPushButton;
+
+// The body of a print form: a connection to the active file for its life;
+// cmdImprimir prints, cmdSair closes.
+class FormImpressao : public QWidget {
+public:
+    ~FormImpressao() override;
+    virtual void cmdImprimir_Click() = 0;
+
+protected:
+    using QWidget::QWidget;
+    // After setupUi: the buttons answer, the keyboard rules apply, the
+    // connection opens.
+    void liga();
+
+    Connection cn_;
+};
 
 TiposTotal tiposDoForm(const QWidget &form);
 // 'A' (optA), 'B' (optB) or 'T' (optT, or no option of the form ticked).
