@@ -17,9 +17,15 @@
 #include "banks/forms/frmCriaTxt.h"
 #include "banks/forms/frmGAbre_Arq.h"
 #include "billing/forms/frmAjTxVcto.h"
+#include "billing/forms/frmCarta_Cob.h"
+#include "billing/forms/frmConBanco.h"
 #include "billing/forms/frmFiltro.h"
 #include "billing/forms/frmParametro.h"
+#include "billing/forms/frmRCondCobr.h"
+#include "billing/forms/frmRCondRec.h"
+#include "billing/forms/frmRRecAnual.h"
 #include "billing/forms/frmRecibos.h"
+#include "billing/forms/frmTEleitor.h"
 #include "billing/forms/frmPesqfin.h"
 #include "billing/forms/frmPesqRec.h"
 #include "billing/forms/frmPesqRecSel.h"
@@ -114,15 +120,17 @@ void registerAllForms()
     registerForm<frmParametro>(FormKind::Dialog);
     registerForm<frmAjTxVcto>(FormKind::Child);
     registerForm<frmRecibos>(FormKind::Child);
+    registerForm<frmCarta_Cob>(FormKind::Child);
+    registerForm<frmTEleitor>(FormKind::Child);
+    registerForm<frmRCondRec>(FormKind::Child);
+    registerForm<frmRCondCobr>(FormKind::Child);
+    registerForm<frmConBanco>(FormKind::Child);
+    registerForm<frmRRecAnual>(FormKind::Child);
 }
 
 QStringList formsToCome()
 {
     return {
-        // Billing
-        QStringLiteral("frmCarta_Cob"),
-        QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
-        QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
         // Maintenance
         QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
     };

@@ -89,6 +89,9 @@ struct ReportTemplate {
     LabelLayout labels;
     QStringList groups;                 // group fields, outermost first
     std::vector<Band> bands;
+    // A template bound to its own data: the statement it reads from a file of
+    // the program directory (`source`). Empty for a template handed its table.
+    QString sourceFile, sourceSql;
 
     // The band of this kind (and group), or nullptr.
     const Band *band(BandKind kind, int group = -1) const;

@@ -23,16 +23,18 @@ frmPesqRec::frmPesqRec(QWidget *parent) : ListaDeEscolha(parent), ui_(std::make_
     }
     Money total;
     Recordset rs = cn_.Execute(session.sql);
+    // The list of a unit's debts (frmTEleitor) brings no bank number.
+    const bool comNrbco = rs.columnNames().contains(QStringLiteral("nrbco"), Qt::CaseInsensitive);
     while (!rs.eof()) {
         const QString codap = rs[QStringLiteral("codap")].text();
         Recordset ap = cn_.Execute(QStringLiteral("SELECT nome FROM aptos WHERE codigo = '") + codap + QStringLiteral("'"));
         const Money valor = rs[QStringLiteral("vtotal")].toMoney();
         total += valor;
-        ui_->tdbPesq->modelo()->adiciona(
-            {rs[QStringLiteral("codigo")].text(), rs[QStringLiteral("demis")].text(), rs[QStringLiteral("dvencto")].text(),
-             rs[QStringLiteral("drecbto")].text(), codap, rs[QStringLiteral("tipcob")].text(),
-             rs[QStringLiteral("nrbco")].text(), ap.eof() ? QString() : ap[QStringLiteral("nome")].text(),
-             formatMoney(valor, QStringLiteral("R$ ######,##0.00"))});
+        ui_->tdbPesq->modelo()->adiciona({rs[QStringLiteral("codigo")].text(), rs[QStringLiteral("demis")].text(),
+                     rs[QStringLiteral("dvencto")].text(), rs[QStringLiteral("drecbto")].text(), codap,
+                     rs[QStringLiteral("tipcob")].text(), comNrbco ? rs[QStringLiteral("nrbco")].text() : QString(),
+                     ap.eof() ? QString() : ap[QStringLiteral("nome")].text(),
+                     formatMoney(valor, QStringLiteral("R$ ######,##0.00"))});
         rs.moveNext();
     }
     ui_->lblTotal->setText(formatMoney(total, QStringLiteral("R$ ######,##0.00")));

@@ -15,7 +15,8 @@
 # after every run, "PDF NAME.pdf pages N" and the text of that PDF as
 # pdftotext lays it out, blanks squeezed, empty lines left out: what a printed
 # paper says is checked as the rest of the output is. Today's date reads
-# @HOJE@ there, and a time right after it @HORA@.
+# @HOJE@ there, a time right after it @HORA@, and today written out
+# ("5 de Abril de 2008") @HOJE_EXTENSO@.
 # Files a run writes are compared with what the support console makes from
 # the same database (paths relative to the run's folder):
 #   "# snapshot: FILE COPY"  before the run, copies FILE to COPY;
@@ -258,6 +259,16 @@ foreach(line ${texts})
   string(TIMESTAMP today "%d/%m/%Y")
   string(REPLACE "${today}" "@HOJE@" text "${text}")
   string(REGEX REPLACE "@HOJE@ [0-9][0-9]:[0-9][0-9](:[0-9][0-9])?" "@HOJE@ @HORA@" text "${text}")
+  # Today written out, as a letter dates itself ("5 de Abril de 2008").
+  set(meses Janeiro Fevereiro Março Abril Maio Junho Julho Agosto Setembro Outubro Novembro Dezembro)
+  string(TIMESTAMP dia "%d")
+  string(TIMESTAMP mes "%m")
+  string(TIMESTAMP ano "%Y")
+  string(REGEX REPLACE "^0" "" dia "${dia}")
+  string(REGEX REPLACE "^0" "" mes "${mes}")
+  math(EXPR mes "${mes} - 1")
+  list(GET meses ${mes} nome_mes)
+  string(REPLACE "${dia} de ${nome_mes} de ${ano}" "@HOJE_EXTENSO@" text "${text}")
   string(APPEND actual "${text}")
 endforeach()
 
