@@ -23,6 +23,8 @@
 #include "billing/forms/frmRecBaixa.h"
 #include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
+#include "maintenance/forms/frmAjUtilitarios.h"
+#include "maintenance/forms/frmAjuste.h"
 #include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
@@ -108,6 +110,8 @@ void registerAllForms()
     registerForm<frmParametro>(FormKind::Dialog);
     registerForm<frmAjTxVcto>(FormKind::Child);
     registerForm<frmRecibos>(FormKind::Child);
+    registerForm<frmAjuste>(FormKind::Child);
+    registerForm<frmAjUtilitarios>(FormKind::Child);
 }
 
 QStringList formsToCome()
@@ -120,7 +124,5 @@ QStringList formsToCome()
         QStringLiteral("frmCarta_Cob"),
         QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
         QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
-        // Maintenance
-        QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
     };
 }

@@ -6,6 +6,7 @@
 #include "core/datastore.h"
 
 #include "core/conversions.h"
+#include "core/dbfiles.h"
 #include "core/jetdialect.h"
 #include "core/schemacatalog.h"
 #include "core/transaction.h"
@@ -525,6 +526,7 @@ void registerFunctions(sqlite3 *db)
 struct Connection::Impl {
     sqlite3 *db = nullptr;
     QString path;
+    QString inUseKey;  // the file as the registry of open files knows it
     QHash<QString, std::shared_ptr<Prepared>> cache;
     QHash<QString, std::vector<ColumnDef>> tableColumns;  // by lower-case name; empty: no such table
     jet::Lexed lexed;
@@ -751,6 +753,21 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
 }
 
 namespace {
+// The files that connections of this program hold open, by canonical path,
+// with the number of connections on each.
+QHash<QString, int> &openFiles()
+{
+    static QHash<QString, int> files;
+    return files;
+}
+
+QString inUseKeyOf(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
 StatementListener &statementListener()
 {
     static StatementListener listener;
@@ -921,12 +938,22 @@ void Connection::Open(const QString &connectionString)
         throw DatabaseError(e.message(), connectionString);
     }
     registerFunctions(db);
+    impl_->inUseKey = inUseKeyOf(path);
+    ++openFiles()[impl_->inUseKey];
+}
+
+bool databaseInUse(const QString &path)
+{
+    return openFiles().value(inUseKeyOf(path)) > 0;
 }
 
 void Connection::Close()
 {
     if (!impl_->db)
         return;
+    if (!impl_->inUseKey.isEmpty() && --openFiles()[impl_->inUseKey] <= 0)
+        openFiles().remove(impl_->inUseKey);
+    impl_->inUseKey.clear();
     impl_->forgetSchema();  // finalizes the cached statements
     impl_->finalizeSteps();
     // The last connection to close checkpoints the journal into the file and

@@ -23,6 +23,9 @@
 #   "# same: A B"            then adds "SAME A B" when the two files are equal
 #                            byte for byte, "DIFFERENT A B" when not.
 # A "# writes:" file whose name ends in .pdf must be a PDF; any other must exist.
+# @DATA@ in a script stands for today's date as yyyy-mm-dd (the names of
+# files the program dates), and today's date so written reads @DATA@ in the
+# output, a time after it as hh.mm.ss @HORA@.
 cmake_minimum_required(VERSION 3.25)
 
 function(fenced text tag out)
@@ -70,6 +73,8 @@ while(NOT rest STREQUAL "")
     string(SUBSTRING "${rest}" ${cut} -1 rest)
   endif()
   set(script_file "${WORK}/run${n}.hd")
+  string(TIMESTAMP hoje_iso "%Y-%m-%d")
+  string(REPLACE "@DATA@" "${hoje_iso}" run "${run}")
   file(WRITE "${script_file}" "${run}\n")
   set(args "")
   if(run MATCHES "(^|\n)# args:([^\n]*)")
@@ -109,9 +114,13 @@ while(NOT rest STREQUAL "")
   endforeach()
 endwhile()
 string(REPLACE "${WORK}/pdf" "@PDF@" actual "${actual}")
+string(TIMESTAMP hoje_iso "%Y-%m-%d")
+string(REPLACE "${hoje_iso}" "@DATA@" actual "${actual}")
+string(REGEX REPLACE "@DATA@ [0-9][0-9]\\.[0-9][0-9]\\.[0-9][0-9]" "@DATA@ @HORA@" actual "${actual}")
 
 string(REGEX MATCHALL "REPORT [^\n]*\\|@PDF@/[^\n|]*\\.pdf" files "${actual}")
 string(REGEX MATCHALL "(^|\n)# writes: [^\n]*" writes "${script_text}")
+string(REPLACE "@DATA@" "${hoje_iso}" writes "${writes}")
 list(APPEND files ${writes})
 foreach(file ${files})
   string(REGEX REPLACE ".*\\|@PDF@/" "${WORK}/pdf/" pdf "${file}")
