@@ -850,11 +850,14 @@ void Connection::Impl::executeUncached(const jet::Translation &tr, const QString
                 throw DatabaseError(QStringLiteral("A tabela '%1' não existe.").arg(tr.copyTable), sql);
             QStringList names;
             sqlite3_stmt *st = nullptr;
-            const QByteArray q = QStringLiteral("SELECT name FROM %1.pragma_table_info(?1)").arg(tr.copySourceAlias).toUtf8();
-            if (sqlite3_prepare_v2(db, q.constData(), -1, &st, nullptr) != SQLITE_OK)
+            // The schema goes as the pragma's second argument: a schema
+            // prefix before pragma_table_info would read the main file's table.
+            if (sqlite3_prepare_v2(db, "SELECT name FROM pragma_table_info(?1, ?2)", -1, &st, nullptr) != SQLITE_OK)
                 fail(sql);
             const QByteArray t = tr.copySourceTable.toUtf8();
+            const QByteArray alias = tr.copySourceAlias.toUtf8();
             sqlite3_bind_text(st, 1, t.constData(), int(t.size()), SQLITE_TRANSIENT);
+            sqlite3_bind_text(st, 2, alias.constData(), int(alias.size()), SQLITE_TRANSIENT);
             while (sqlite3_step(st) == SQLITE_ROW)
                 names << QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)));
             sqlite3_finalize(st);

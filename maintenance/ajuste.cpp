@@ -33,12 +33,13 @@ void avisa(const AvisoAjuste &aviso, const QString &texto, int feitos, int total
 }
 
 // Fills the file the connection holds with the rows of the tables of the file
-// origem, in one transaction: the copy's own rows of those tables (the
-// template's starting rows) go first, since the old file brings its own.
+// origem: the copy's own rows of those tables (the template's starting rows)
+// go first, since the old file brings its own. The file is a temporary one,
+// thrown away on a failure: no transaction is needed (and the file named by
+// IN can only be let go of outside one).
 void carrega(Connection &cn, const QString &dir, const QString &origem, const QStringList &tabelas,
              const AvisoAjuste &aviso, int feitos, int total)
 {
-    Transaction passo(cn);
     for (const QString &tabela : tabelas)
         cn.Execute(QStringLiteral("DELETE * FROM ") + tabela);
     for (const QString &tabela : tabelas) {
@@ -47,7 +48,6 @@ void carrega(Connection &cn, const QString &dir, const QString &origem, const QS
                       + QStringLiteral(" in '") + dir + origem + u'\'';
         cn.Execute(session.sql);
     }
-    passo.commit();
 }
 
 // A file about to be renamed over must have no journal of a program that

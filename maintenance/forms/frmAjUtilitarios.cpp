@@ -160,13 +160,13 @@ void frmAjUtilitarios::cmdCopia_Click()
     });
     if (falhas < 0)
         return;
-    lblSituacao_->setText(QStringLiteral("Cópia de segurança: %1 arquivo(s) copiado(s) para %2.").arg(copiados).arg(pasta));
+    lblSituacao_->setText(QStringLiteral("Cópia de segurança: %1 arquivo(s) copiado(s) para a pasta \"%2\".").arg(copiados).arg(pasta));
     ponteiroNormal();
     if (falhas == 0)
-        MsgBox(QStringLiteral("Cópia de segurança concluída: %1 arquivo(s) copiado(s) para %2.").arg(copiados).arg(pasta),
+        MsgBox(QStringLiteral("Cópia de segurança concluída: %1 arquivo(s) copiado(s) para a pasta \"%2\".").arg(copiados).arg(pasta),
                vbInformation, QStringLiteral("Atenção"));
     else
-        MsgBox(QStringLiteral("A cópia de %1 arquivo(s) falhou; veja a coluna Situação. Os demais foram copiados para %2.")
+        MsgBox(QStringLiteral("A cópia de %1 arquivo(s) falhou; veja a coluna Situação. Os demais foram copiados para a pasta \"%2\".")
                    .arg(falhas)
                    .arg(pasta),
                vbExclamation, QStringLiteral("Atenção"));

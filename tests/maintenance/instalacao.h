@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <ostream>
 
 // Count and checksum of each table, by table name.
 struct Tabela {
@@ -15,6 +16,7 @@ struct Tabela {
     bool operator==(const Tabela &o) const { return linhas == o.linhas && soma == o.soma; }
 };
 using Retrato = QMap<QString, Tabela>;
+inline void PrintTo(const Tabela &t, std::ostream *os) { *os << t.linhas << " linhas " << t.soma.toHex().left(8).constData(); }
 
 // The rows of each table (every table of the schema when tabelas is empty),
 // whatever their order, through a connection of its own.

@@ -48,22 +48,27 @@ const Antes &antes()
 
 // Every condominium has its file, sound and with its data, whether carried
 // over or not; a safety copy beside it holds the same data; the system file
-// likewise. What a stop at any moment must leave.
-void confereNadaPerdido(const QString &dir)
+// likewise. What a stop at any moment must leave. The condominiums of
+// mudados were changed by the test itself and are checked by it.
+void confereNadaPerdido(const QString &dir, const QStringList &mudados = {})
 {
     for (const QString &nnn : kCondominios) {
+        if (mudados.contains(nnn))
+            continue;
         SCOPED_TRACE(con(nnn).toStdString());
         ASSERT_TRUE(QFile::exists(dir + con(nnn)));
         EXPECT_TRUE(checkDatabase(dir + con(nnn)).isEmpty());
         EXPECT_EQ(retrato(dir + con(nnn), tabelasAjuste()), antes().condominio[nnn]);
-        if (QFile::exists(dir + seg(nnn)))
+        if (QFile::exists(dir + seg(nnn))) {
             EXPECT_EQ(retrato(dir + seg(nnn), tabelasAjuste()), antes().condominio[nnn]);
+        }
     }
     ASSERT_TRUE(QFile::exists(dir + QStringLiteral("Con000.mdb")));
     EXPECT_EQ(retrato(dir + QStringLiteral("Con000.mdb"), tabelasSistema()), antes().sistema);
     // Once Ajustec.mdb is gone, the old system file is kept.
-    if (!QFile::exists(dir + QStringLiteral("Ajustec.mdb")))
+    if (!QFile::exists(dir + QStringLiteral("Ajustec.mdb"))) {
         EXPECT_EQ(retrato(dir + QStringLiteral("Seg1207.bak"), tabelasSistema()), antes().sistema);
+    }
 }
 
 } // namespace
@@ -118,7 +123,8 @@ TEST(AjusteVersao, AFailureStopsAtItsFileAndLeavesItAsItWas)
     const QString dir = tmp.path() + u'/';
     copiaPasta(antes().modelo, dir);
     {
-        // An old file with a column the new shape lacks: its INSERT fails.
+        // An old file with a column the new shape lacks: its INSERT fails
+        // (carried, the column's data would be lost).
         Connection cn;
         cn.Open(connectionString(dir, con(QStringLiteral("002")), QString()));
         cn.Execute(QStringLiteral("ALTER TABLE Recibos ADD COLUMN antiga TEXT"));
@@ -136,7 +142,7 @@ TEST(AjusteVersao, AFailureStopsAtItsFileAndLeavesItAsItWas)
     EXPECT_FALSE(QFile::exists(dir + seg(QStringLiteral("002"))));
     EXPECT_FALSE(QFile::exists(dir + seg(QStringLiteral("003"))));
     EXPECT_FALSE(QFile::exists(dir + QStringLiteral("AjMatrix.mdb")));
-    confereNadaPerdido(dir);
+    confereNadaPerdido(dir, {QStringLiteral("002")});
 }
 
 TEST(AjusteVersao, RefusesWhileAFormHoldsAFileOpen)
@@ -173,7 +179,7 @@ TEST(AjusteVersao, AKillAtAnyStepLosesNoCondominium)
     }
     QList<int> mortes;
     for (int k = 1; k <= passos.size(); ++k)
-        if (k % 9 == 1 || passos[k - 1].contains(QStringLiteral("segurança")) || passos[k - 1].startsWith(QStringLiteral("CONDOMINIOS")))
+        if (k % 20 == 1 || passos[k - 1].contains(QStringLiteral("segurança")) || passos[k - 1].startsWith(QStringLiteral("CONDOMINIOS")))
             mortes << k;
     int refeitas = 0;
     for (int k : mortes) {
@@ -204,7 +210,7 @@ TEST(AjusteVersao, AKillAtAnyStepLosesNoCondominium)
         }
     }
     EXPECT_GT(refeitas, 0);
-    EXPECT_GT(mortes.size(), 8);
+    EXPECT_GE(mortes.size(), 12);
 }
 
 TEST(AjusteVersao, TheEmailToolMovesTheOwnersEmailToTheInternalCode)
