@@ -212,23 +212,3 @@ TEST(AjusteVersao, AKillAtAnyStepLosesNoCondominium)
     EXPECT_GT(refeitas, 0);
     EXPECT_GE(mortes.size(), 12);
 }
-
-TEST(AjusteVersao, TheEmailToolMovesTheOwnersEmailToTheInternalCode)
-{
-    QTemporaryDir tmp;
-    const QString dir = tmp.path() + u'/';
-    copiaPasta(antes().modelo, dir);
-    EXPECT_FALSE(VinculaEmailCodigo(dir, QStringLiteral("9")));  // no Con009.mdb
-    ASSERT_TRUE(VinculaEmailCodigo(dir, QStringLiteral("2")));
-    Connection cn;
-    cn.Open(connectionString(dir, con(QStringLiteral("002")), QString()));
-    Recordset rs = cn.Execute(QStringLiteral("SELECT codinterno, emailpro FROM Aptos"));
-    int unidades = 0;
-    while (!rs.eof()) {
-        EXPECT_TRUE(rs[QStringLiteral("codinterno")].text().contains(u'@'));
-        EXPECT_EQ(rs[QStringLiteral("emailpro")].text(), QString());
-        ++unidades;
-        rs.moveNext();
-    }
-    EXPECT_GT(unidades, 0);
-}
