@@ -68,8 +68,7 @@ QString instalacaoModelo()
     p.start(builtProgramDir() + QStringLiteral("mkdemo"), {dir, QStringLiteral("16")});
     p.waitForFinished(120000);
     EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
-    for (const char *f : {"habitarium", "tour"})
-        QFile::remove(dir + QLatin1String(f));
+    QFile::remove(dir + QStringLiteral("habitarium"));  // not needed by the copies each test makes
     QFile::copy(builtProgramDir() + QStringLiteral("Ajustec.mdb"), dir + QStringLiteral("Ajustec.mdb"));
     QFile::setPermissions(dir + QStringLiteral("Ajustec.mdb"), QFile::ReadOwner | QFile::WriteOwner);
 
