@@ -32,6 +32,8 @@
 #include "billing/forms/frmRecBaixa.h"
 #include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
+#include "maintenance/forms/frmAjUtilitarios.h"
+#include "maintenance/forms/frmAjuste.h"
 #include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
@@ -126,12 +128,12 @@ void registerAllForms()
     registerForm<frmRCondCobr>(FormKind::Child);
     registerForm<frmConBanco>(FormKind::Child);
     registerForm<frmRRecAnual>(FormKind::Child);
+    registerForm<frmAjuste>(FormKind::Child);
+    registerForm<frmAjUtilitarios>(FormKind::Child);
 }
 
 QStringList formsToCome()
 {
     return {
-        // Maintenance
-        QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
     };
 }

@@ -29,6 +29,9 @@
 #                            by line: adds "FIGURES NAME N lines as habtool", or
 #                            "FIGURES NAME DIFFERENT" and the first lines apart.
 # A "# writes:" file whose name ends in .pdf must be a PDF; any other must exist.
+# @DATA@ in a script stands for today's date as yyyy-mm-dd (the names of
+# files the program dates), and today's date so written reads @DATA@ in the
+# output, a time after it as hh.mm.ss @HORA@.
 cmake_minimum_required(VERSION 3.25)
 
 # The figures of a printed paper: each line that begins with an account code
@@ -155,6 +158,8 @@ while(NOT rest STREQUAL "")
     string(SUBSTRING "${rest}" ${cut} -1 rest)
   endif()
   set(script_file "${WORK}/run${n}.hd")
+  string(TIMESTAMP hoje_iso "%Y-%m-%d")
+  string(REPLACE "@DATA@" "${hoje_iso}" run "${run}")
   file(WRITE "${script_file}" "${run}\n")
   set(args "")
   if(run MATCHES "(^|\n)# args:([^\n]*)")
@@ -219,9 +224,13 @@ while(NOT rest STREQUAL "")
   endforeach()
 endwhile()
 string(REPLACE "${WORK}/pdf" "@PDF@" actual "${actual}")
+string(TIMESTAMP hoje_iso "%Y-%m-%d")
+string(REPLACE "${hoje_iso}" "@DATA@" actual "${actual}")
+string(REGEX REPLACE "@DATA@ [0-9][0-9]\\.[0-9][0-9]\\.[0-9][0-9]" "@DATA@ @HORA@" actual "${actual}")
 
 string(REGEX MATCHALL "REPORT [^\n]*\\|@PDF@/[^\n|]*\\.pdf" files "${actual}")
 string(REGEX MATCHALL "(^|\n)# writes: [^\n]*" writes "${script_text}")
+string(REPLACE "@DATA@" "${hoje_iso}" writes "${writes}")
 list(APPEND files ${writes})
 foreach(file ${files})
   string(REGEX REPLACE ".*\\|@PDF@/" "${WORK}/pdf/" pdf "${file}")
