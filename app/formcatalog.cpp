@@ -116,9 +116,6 @@ void registerAllForms()
     registerForm<frmPesqRecSel>(FormKind::Dialog);
     registerForm<frmRecBaixa>(FormKind::Child);
     registerForm<frmSpool>(FormKind::Child);
-    // Registers, billing, banks, accounting, reporting and maintenance add
-    // their forms below, one line each, and take them off formsToCome:
-    //   registerForm<frmAptos>(FormKind::Child);
     registerForm<frmParametro>(FormKind::Dialog);
     registerForm<frmAjTxVcto>(FormKind::Child);
     registerForm<frmRecibos>(FormKind::Child);
@@ -130,10 +127,4 @@ void registerAllForms()
     registerForm<frmRRecAnual>(FormKind::Child);
     registerForm<frmAjuste>(FormKind::Child);
     registerForm<frmAjUtilitarios>(FormKind::Child);
-}
-
-QStringList formsToCome()
-{
-    return {
-    };
 }
