@@ -45,6 +45,9 @@ void prepara(QTableWidget &grade, const QString &tituloValor, std::function<void
     for (int c = 2; c <= kSint; ++c)
         grade.setColumnWidth(c, 50);
     grade.setColumnWidth(kValor, 130);
+    // The description needs room of its own: the forms open at their layout's
+    // size, which the fixed columns alone would fill.
+    grade.setMinimumWidth(640);
     grade.setSelectionBehavior(QAbstractItemView::SelectItems);
     grade.setSelectionMode(QAbstractItemView::SingleSelection);
     grade.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);

@@ -343,11 +343,6 @@ void frmRecibos::cmdInterromper_Click()
 
 void frmRecibos::cmdPesqEv_Click()
 {
-    if (!findForm(QStringLiteral("frmPesqEv"))) {
-        MsgBox(QStringLiteral("Esta função ainda não está disponível nesta versão do sistema."), vbInformation,
-               QStringLiteral("Atenção"));
-        return;
-    }
     if (!abrePesquisa(this, QStringLiteral("frmPesqEv"), QStringLiteral("Pesquisa de Eventos"), QStringLiteral("Eventos"))
         || session.valorPesq.trimmed().isEmpty())
         return;

@@ -359,9 +359,8 @@ QWidget *mdiHabitarium::abreForm(const QString &formName)
         }
     }
     const FormEntry *entry = findForm(formName);
-    if (!entry) {
-        MsgBox(QStringLiteral("Esta função ainda não está disponível nesta versão do sistema."), vbInformation,
-               QStringLiteral("Atenção"));
+    if (!entry) {  // a name the catalog lacks: the menu test keeps this from happening
+        avisaFalhaAoAbrir(QStringLiteral("O formulário ") + formName + QStringLiteral(" não existe nesta instalação."));
         return nullptr;
     }
     // A form whose load fails (its file is missing, a statement fails) is not

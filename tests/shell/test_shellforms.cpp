@@ -120,7 +120,7 @@ TEST(MainWindow, UserWithoutCondominiumIsTakenToActivation)
     EXPECT_EQ(session.nomeEmp, QStringLiteral("Residencial Teste"));
     EXPECT_TRUE(mdi.windowTitle().endsWith(QStringLiteral("Usuário: Joao  -  Empresa Ativa: 1 - Residencial Teste")));
     EXPECT_EQ(session.conAtiva, connectionString(dir.path(), QStringLiteral("Con001.mdb"), QString()));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT empat FROM Usuarios WHERE nome = 'Joao'"), QStringLiteral("empat")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT empat FROM Usuarios WHERE nome = 'Joao'")),
               QStringLiteral("1"));
 
     // Activation again, from the menu: a code of 0 changes nothing.
@@ -260,14 +260,12 @@ TEST(MainWindow, MenuRightsAreReadAtEachClick)
     EXPECT_EQ(p.last().text, QStringLiteral("Usuário não autorizado a efetuar pesquisas !"));
     mdi.acao(QStringLiteral("mnuAjhon"))->trigger();
     EXPECT_EQ(p.last().text, QStringLiteral("Usuário não autorizado a ajustar taxas !"));
-
-    // The right given while signed in counts at the next click; a form not yet
-    // in the catalog says so.
+    // The right given while signed in counts at the next click (here only the
+    // core forms are in the catalog, so the entry gets as far as the catalog).
     dir.execSistema(QStringLiteral("UPDATE Usuarios SET cfcon = True Where nome = 'Joao'"));
-    if (!findForm(QStringLiteral("frmRecBaixa"))) {
-        mdi.acao(QStringLiteral("mnuBaixa"))->trigger();
-        EXPECT_EQ(p.last().text, QStringLiteral("Esta função ainda não está disponível nesta versão do sistema."));
-    }
+    mdi.acao(QStringLiteral("mnuBaixa"))->trigger();
+    EXPECT_TRUE(p.last().text.startsWith(QStringLiteral("Não foi possível abrir esta função."))) << p.last().text.toStdString();
+
     // Dead entries do nothing at all.
     const size_t before = p.calls.size();
     for (const char *dead : {"mnuAreas", "mnuGerarC", "mnuInfracao", "mnuDiversos", "mnuPorc", "tob01", "tob08", "tob11"})
@@ -275,13 +273,12 @@ TEST(MainWindow, MenuRightsAreReadAtEachClick)
     EXPECT_EQ(p.calls.size(), before);
 }
 
-// Every menu entry and toolbar button opens a form of the catalog, is dead by
-// design, or names a form still to come: a misspelt name is none of these.
+// Every menu entry and toolbar button opens a form of the catalog or is dead by
+// design: a misspelt name is neither.
 TEST(MainWindow, EveryEntryAndButtonReachesTheCatalog)
 {
     registerAllForms();
     mdiHabitarium mdi;
-    const QStringList toCome = formsToCome();
     QStringList dead, own, opened;
     for (QAction *a : mdi.findChildren<QAction *>()) {
         const QString name = a->objectName();
@@ -299,18 +296,15 @@ TEST(MainWindow, EveryEntryAndButtonReachesTheCatalog)
             own << name;
         else
             opened << form;
-        if (!form.isEmpty()) {
-            EXPECT_NE(findForm(form) != nullptr, toCome.contains(form))
-                << name.toStdString() << " opens " << form.toStdString() << ": registered xor still to come";
-        }
+        if (!form.isEmpty())
+            EXPECT_NE(findForm(form), nullptr) << name.toStdString() << " opens " << form.toStdString();
     }
     dead.sort();
     own.sort();
     EXPECT_EQ(dead, (QStringList{"mnuAreas", "mnuDiversos", "mnuGerarC", "mnuInfracao", "mnuPorc", "tob01", "tob08", "tob11"}));
     EXPECT_EQ(own, (QStringList{"mnuAtemp", "mnuCascata", "mnuMusu", "mnuSair", "tob12", "tob13"}));
-    for (const QString &form : toCome)
-        EXPECT_TRUE(opened.contains(form)) << form.toStdString() << " is still to come but no entry opens it";
-    EXPECT_EQ(QSet<QString>(toCome.begin(), toCome.end()).size(), toCome.size());
+    opened.removeDuplicates();
+    EXPECT_EQ(opened.size(), 45);  // the forms of the menu; the toolbar repeats some of them
     // The catalog names the forms it makes.
     const FormEntry *sobre = findForm(QStringLiteral("frmSobre"));
     ASSERT_NE(sobre, nullptr);
@@ -452,9 +446,9 @@ TEST(PasswordChange, TheTryCounterAndTheSave)
         EXPECT_EQ(form.result(), QDialog::Accepted);
         EXPECT_FALSE(session.cancelaGrava);
     }
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT senha FROM Usuarios WHERE codigo = 1"), QStringLiteral("senha")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT senha FROM Usuarios WHERE codigo = 1")),
               EmbaralhaSenha(QStringLiteral("nova1")));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT dsenha FROM Usuarios WHERE codigo = 1"), QStringLiteral("dsenha")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT dsenha FROM Usuarios WHERE codigo = 1")),
               formatDate(QDate::currentDate(), QStringLiteral("dd/mm/yyyy")));
     {
         ScriptedPrompter p;
@@ -490,8 +484,7 @@ TEST(PrinterChoice, StoredForTheUser)
     form.findChild<QRadioButton *>(QStringLiteral("optIl"))->setChecked(true);
     form.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
     EXPECT_EQ(session.impressora, QStringLiteral("L"));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT impressora FROM Usuarios WHERE nome = 'Joao'"),
-                               QStringLiteral("impressora")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT impressora FROM Usuarios WHERE nome = 'Joao'")),
               QStringLiteral("L"));
 }
 
