@@ -3,29 +3,6 @@
 
 #include <vector>
 
-// Worked by hand: 99.999,99 as a float is 99999.9921875; to currency
-// 99999.9922; plus 0,02 and rounded, 100000.01; as a float 100000.0078125,
-// whose seven digits read "100000". One cent is gone.
-TEST(AtualizaFloat, SumsKeepSevenDigitsAndLoseCentsAbove99999)
-{
-    float total = accumulateSingle(0, reais("99999,99"));
-    EXPECT_EQ(total, 99999.9921875f);
-    total = accumulateSingle(total, reais("0,02"));
-    EXPECT_EQ(total, 100000.0078125f);
-    EXPECT_EQ(textoSingle(total), S("100000"));
-
-    // 123.456,78 is 123456.78125 as a float and is written "123456,8".
-    EXPECT_EQ(textoSingle(accumulateSingle(0, reais("123456,78"))), S("123456,8"));
-
-    // Below the limit the cents survive; each amount is rounded half up first.
-    float pequeno = accumulateSingle(0, reais("0,1"));
-    pequeno = accumulateSingle(pequeno, reais("0,2"));
-    EXPECT_EQ(textoSingle(pequeno), S("0,3"));
-    EXPECT_EQ(textoSingle(accumulateSingle(0, reais("10,005"))), S("10,01"));
-    EXPECT_EQ(textoSingle(accumulateSingle(0, reais("-1234,5"))), S("-1234,5"));
-    EXPECT_EQ(textoSingle(0.0f), S("0"));
-}
-
 TEST_F(Contabil, AtualizaMonthOfEntriesSumsByAccountAndRollsUp)
 {
     planoPadrao();
@@ -95,6 +72,10 @@ TEST_F(Contabil, AtualizaEmptyMonthLastMonthAndEarlierRerun)
     EXPECT_EQ(plano(S("03.001"), S("sf12")), reais("250"));
 }
 
+// Worked by hand: 99.999,99 as a float is 99999.9921875; to currency
+// 99999.9922; plus 0,02 and rounded, 100000.01; as a float 100000.0078125,
+// whose seven digits read "100000". One cent is gone. (The float sum and its
+// text alone: test_conversions.)
 TEST_F(Contabil, AtualizaLosesTheCentAbove99999AsTheFloatSumsDo)
 {
     planoPadrao();
