@@ -20,12 +20,7 @@ protected:
         poe(S("01.001"), S("sf05"), S("-9999"));
     }
     // A row of the work table: sini, vdeb, vcre, sfin, spct, spo.
-    std::string rb(const char *codigo)
-    {
-        return leLinha(session.conAtiva, S("SELECT sini,vdeb,vcre,sfin,spct,spo FROM RBalancete WHERE codigo = '%1'").arg(S(codigo)))
-            .toStdString();
-    }
-    Money rp(const char *codigo, const char *coluna) { return valor(S("RPcontas"), S(codigo), S(coluna)); }
+    std::string rb(const char *codigo) { return linha("RBalancete", codigo, "sini,vdeb,vcre,sfin,spct,spo"); }
 };
 
 TEST_F(Balancete, MonthIsRoundedPeriodIsNotAndBalancesComeFromTheFirstMonth)
@@ -101,21 +96,19 @@ TEST_F(Balancete, RPcontasTurnsRevenueAndAddsCashOnlyWhenAsked)
     EncheRPcontas(con, S("3"), S("2008"), false);
     EXPECT_EQ(linhas(S("SELECT * FROM RPcontas")), 6);
     EXPECT_EQ(linhas(S("SELECT * FROM RPcontas WHERE tipo = 'C'")), 0);
-    EXPECT_EQ(rp("01.001", "spct"), reais("1100,006"));  // credits over debits: positive
-    EXPECT_EQ(rp("01.001", "sfin"), reais("1200,011"));  // sign dropped, not rounded
-    EXPECT_EQ(rp("01.001", "spo"), reais("1000"));
-    EXPECT_EQ(rp("01.", "spct"), Money());
-    EXPECT_EQ(rp("01.", "sfin"), reais("5000"));
-    EXPECT_EQ(rp("01.002", "spct"), reais("-50"));
-    EXPECT_EQ(rp("01.002", "sfin"), reais("50"));
-    EXPECT_EQ(rp("02.001", "spct"), reais("300"));       // expenses keep their sign
-    EXPECT_EQ(rp("02.002", "sfin"), reais("-20"));
+    // Revenue turned positive (credits over debits), the balance's sign
+    // dropped and not rounded; a synthetic row keeps spct and spo at zero;
+    // expenses keep their sign. Columns spct, sfin, spo:
+    EXPECT_EQ(linha("RPcontas", "01.001", "spct,sfin,spo"), "1100,006|1200,011|1000");
+    EXPECT_EQ(linha("RPcontas", "01.", "spct,sfin,spo"), "0|5000|0");
+    EXPECT_EQ(linha("RPcontas", "01.002", "spct,sfin,spo"), "-50|50|0");
+    EXPECT_EQ(linha("RPcontas", "02.001", "spct,sfin,spo"), "300|300|0");
+    EXPECT_EQ(linha("RPcontas", "02.002", "spct,sfin,spo"), "0|-20|0");
     // Revenue 1.050,006 rounded by the database, less 300 of expenses.
     EXPECT_EQ(ResultadoPctEspecial(con), reais("750,01"));
 
     EncheRPcontas(con, S("3"), S("2008"), true);
     EXPECT_EQ(linhas(S("SELECT * FROM RPcontas")), 8);   // 03. and 03.001; 09. is not cash
-    EXPECT_EQ(rp("03.001", "sini"), reais("1000"));
-    EXPECT_EQ(rp("03.001", "sfin"), reais("1500"));
-    EXPECT_EQ(rp("03.", "spct"), Money());
+    EXPECT_EQ(linha("RPcontas", "03.001", "sini,sfin"), "1000|1500");
+    EXPECT_EQ(linha("RPcontas", "03.", "spct"), "0");
 }
