@@ -171,9 +171,9 @@ struct ColumnSet {
     QStringList origins;  // "table.column" of a plain column, empty for an expression
     std::vector<std::optional<ColumnKind>> kinds;
     // Where a name asked for was found, by the address of the asker's text:
-    // a loop asks with the same literal each time. Checked before it is
-    // trusted, since the address of a freed text may come back with another.
-    mutable QHash<const void *, qsizetype> asked;
+    // a loop asks with the same literal each time. The text is kept here, so
+    // that its memory cannot be freed and come back holding another name.
+    mutable QHash<const void *, std::pair<QString, qsizetype>> asked;
 };
 
 struct Prepared {
@@ -762,7 +762,6 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
             *affected = ncols > 0 ? 0 : long(sqlite3_changes(db));
     }
     sqlite3_reset(st);
-    sqlite3_clear_bindings(st);
 }
 
 namespace {
@@ -789,19 +788,21 @@ void Connection::Impl::execute(const QString &sql, Recordset::Impl *rs, long *af
         throw DatabaseError(QStringLiteral("Instrução SQL inválida."), sql);
     if (lexed.cacheable) {
         auto it = cache.constFind(lexed.key);
-        std::shared_ptr<Prepared> p;
+        // Nothing below touches the cache before the statement has run.
+        Prepared *p = nullptr;
         if (it != cache.constEnd()) {
-            p = *it;
+            p = it->get();
         } else {
             const jet::Translation tr =
                 jet::translate(lexed, [this](const QString &t) { return columnsOf(t); });
             if (!tr.attachments.empty())
                 return executeUncached(tr, sql, rs, affected);
-            p = prepare(tr.sql, sql);
-            p->params = tr.params;
+            std::shared_ptr<Prepared> made = prepare(tr.sql, sql);
+            made->params = tr.params;
             if (cache.size() >= kCacheLimit)
                 cache.clear();
-            cache.insert(lexed.key, p);
+            cache.insert(lexed.key, made);
+            p = made.get();
         }
         bind(*p, sql);
         run(*p, sql, rs, affected);
@@ -1056,8 +1057,37 @@ Transaction::~Transaction()
 
 // ---- Recordset ---------------------------------------------------------------
 
-Recordset::Recordset() : impl_(std::make_unique<Impl>()) {}
-Recordset::~Recordset() = default;
+// Every statement makes a recordset and drops it: their innards are kept for
+// the next one (the data store runs on one thread), small ones only.
+namespace {
+std::vector<Recordset::Impl *> &spareRecordsets()
+{
+    static auto *spare = new std::vector<Recordset::Impl *>;  // lives to the end of the program
+    return *spare;
+}
+}
+
+Recordset::Recordset()
+{
+    auto &spare = spareRecordsets();
+    if (spare.empty()) {
+        impl_ = std::make_unique<Impl>();
+    } else {
+        impl_.reset(spare.back());
+        spare.pop_back();
+    }
+}
+
+Recordset::~Recordset()
+{
+    if (!impl_)
+        return;
+    auto &spare = spareRecordsets();
+    if (spare.size() >= 8 || impl_->cells.capacity() > 4096 || impl_->store.capacity() > 65536)
+        return;
+    Close();
+    spare.push_back(impl_.release());
+}
 Recordset::Recordset(Recordset &&) noexcept = default;
 Recordset &Recordset::operator=(Recordset &&) noexcept = default;
 
@@ -1114,9 +1144,8 @@ const Field &Recordset::operator[](const QString &column) const
         throw DatabaseError(kNoCurrentRecord, column);
     const ColumnSet &cols = *impl_->columns;
     const auto remembered = cols.asked.constFind(column.constData());
-    if (remembered != cols.asked.constEnd() && *remembered < cols.names.size() &&
-        cols.names[*remembered].compare(column, Qt::CaseInsensitive) == 0)
-        return impl_->field(size_t(*remembered));
+    if (remembered != cols.asked.constEnd() && remembered->first.size() == column.size())
+        return impl_->field(size_t(remembered->second));
     qsizetype index = -1;
     for (qsizetype c = 0; c < cols.names.size() && index < 0; ++c)
         if (cols.names[c].compare(column, Qt::CaseInsensitive) == 0)
@@ -1130,7 +1159,7 @@ const Field &Recordset::operator[](const QString &column) const
         throw DatabaseError(
             QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), column);
     if (cols.asked.size() < 256)
-        cols.asked.insert(column.constData(), index);
+        cols.asked.insert(column.constData(), {column, index});
     return impl_->field(size_t(index));
 }
 
