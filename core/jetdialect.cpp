@@ -167,12 +167,14 @@ void lex(QStringView sql, Lexed &out)
             t.text = sql.mid(start + 1, i - start - 1);
             ++i;
         } else {
-            static const char16_t *const pairs[] = {u"<>", u"<=", u">=", u"!=", u"||", u"=="};
+            // Two-character operators: <> <= >= != || ==.
             qsizetype len = 1;
-            if (i + 1 < n)
-                for (const char16_t *p : pairs)
-                    if (sql[i] == QChar(p[0]) && sql[i + 1] == QChar(p[1]))
-                        len = 2;
+            if (i + 1 < n) {
+                const char16_t a = c.unicode(), b = sql[i + 1].unicode();
+                if ((a == u'<' && (b == u'>' || b == u'=')) || ((a == u'>' || a == u'!' || a == u'=') && b == u'=') ||
+                    (a == u'|' && b == u'|'))
+                    len = 2;
+            }
             t.type = TokenType::Operator;
             t.text = sql.mid(start, len);
             i += len;
