@@ -20,6 +20,19 @@ bool existeTabelaAno(Connection &cn, const QString &tabela)
     }
 }
 
+QString semTabelaDoAno(const QString &ano)
+{
+    return QStringLiteral("Não há tabela de lançamentos do ano %1 (%2) neste condomínio: os lançamentos vão de 2000 a 2008 !")
+        .arg(ano, tabelaDoAno(ano));
+}
+
+bool anoComPrevisao(const QString &ano)
+{
+    bool ok = false;
+    const int a = ano.trimmed().toInt(&ok);
+    return ok && ano.trimmed().size() == 4 && a >= 2002 && a <= 2008;
+}
+
 bool valorDigitado(const QString &texto, double &valor)
 {
     static const QRegularExpression forma(QStringLiteral("^-?(\\d{1,3}(\\.\\d{3})+|\\d+)(,\\d{1,2})?$"));

@@ -11,6 +11,12 @@ QString tabelaDoAno(const QString &ano);
 // Whether the file has the journal table of that name. Only Mov00 to Mov08
 // exist in a condominium's file; a later year has none.
 bool existeTabelaAno(Connection &cn, const QString &tabela);
+// What the accountant is told when the year has no journal table.
+QString semTabelaDoAno(const QString &ano);
+
+// Plano carries budget columns (po + yymm) for the years 2002 to 2008 only;
+// the reports that read them need one of those years.
+bool anoComPrevisao(const QString &ano);
 
 // An amount typed the Brazilian way: digits, thousands points in groups of
 // three, one decimal comma with up to two places, an optional leading minus

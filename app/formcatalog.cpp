@@ -6,6 +6,9 @@
 #include "accounting/forms/frmMov_BalctP.h"
 #include "accounting/forms/frmMovSaldini.h"
 #include "accounting/forms/frmMovpo.h"
+#include "accounting/forms/frmRBalancetes.h"
+#include "accounting/forms/frmRLanctos.h"
+#include "accounting/forms/frmRRazao.h"
 #include "banks/forms/filtrobanco.h"
 #include "banks/forms/frmBcoDiversos.h"
 #include "banks/forms/frmBcoSantander.h"
@@ -14,15 +17,23 @@
 #include "banks/forms/frmCriaTxt.h"
 #include "banks/forms/frmGAbre_Arq.h"
 #include "billing/forms/frmAjTxVcto.h"
+#include "billing/forms/frmCarta_Cob.h"
+#include "billing/forms/frmConBanco.h"
 #include "billing/forms/frmFiltro.h"
 #include "billing/forms/frmParametro.h"
+#include "billing/forms/frmRCondCobr.h"
+#include "billing/forms/frmRCondRec.h"
+#include "billing/forms/frmRRecAnual.h"
 #include "billing/forms/frmRecibos.h"
+#include "billing/forms/frmTEleitor.h"
 #include "billing/forms/frmPesqfin.h"
 #include "billing/forms/frmPesqRec.h"
 #include "billing/forms/frmPesqRecSel.h"
 #include "billing/forms/frmRecBaixa.h"
 #include "billing/forms/frmSpool.h"
 #include "core/forms/formcatalog.h"
+#include "maintenance/forms/frmAjUtilitarios.h"
+#include "maintenance/forms/frmAjuste.h"
 #include "registers/forms/frmAptos.h"
 #include "registers/forms/frmBlocos.h"
 #include "registers/forms/frmCpj.h"
@@ -78,6 +89,9 @@ void registerAllForms()
     registerForm<frmMovSaldini>(FormKind::Child);
     registerForm<frmMovpo>(FormKind::Child);
     registerForm<frmMov_BalctP>(FormKind::Child);
+    registerForm<frmRBalancetes>(FormKind::Child);
+    registerForm<frmRRazao>(FormKind::Child);
+    registerForm<frmRLanctos>(FormKind::Child);
     registerForm<frmBcoDiversos>(FormKind::Child);
     registerForm<frmCriaTxt>(FormKind::Child);
     registerForm<frmGAbre_Arq>(FormKind::Dialog);
@@ -108,19 +122,18 @@ void registerAllForms()
     registerForm<frmParametro>(FormKind::Dialog);
     registerForm<frmAjTxVcto>(FormKind::Child);
     registerForm<frmRecibos>(FormKind::Child);
+    registerForm<frmCarta_Cob>(FormKind::Child);
+    registerForm<frmTEleitor>(FormKind::Child);
+    registerForm<frmRCondRec>(FormKind::Child);
+    registerForm<frmRCondCobr>(FormKind::Child);
+    registerForm<frmConBanco>(FormKind::Child);
+    registerForm<frmRRecAnual>(FormKind::Child);
+    registerForm<frmAjuste>(FormKind::Child);
+    registerForm<frmAjUtilitarios>(FormKind::Child);
 }
 
 QStringList formsToCome()
 {
     return {
-        // Accounting
-        QStringLiteral("frmRBalancetes"), QStringLiteral("frmRRazao"),
-        QStringLiteral("frmRLanctos"),
-        // Billing
-        QStringLiteral("frmCarta_Cob"),
-        QStringLiteral("frmRCondRec"), QStringLiteral("frmRCondCobr"),
-        QStringLiteral("frmConBanco"), QStringLiteral("frmRRecAnual"), QStringLiteral("frmTEleitor"),
-        // Maintenance
-        QStringLiteral("frmAjuste"), QStringLiteral("frmAjUtilitarios"),
     };
 }

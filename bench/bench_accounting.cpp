@@ -492,7 +492,7 @@ int main(int argc, char **argv)
     Bruto bruto(a.arquivo);
     AtualizaSaldos(con, QStringLiteral("03/2008"));  // the chart holds the month's figures from here on
     const RazaoPeriodo trimestre = periodoRazao(3);
-    bench::run({{"ledger fill, Jan-Mar of a 50,000-entry year (25,000 lines)", 25000, " lines/s",
+    std::vector<bench::Pair> pares{{"ledger fill, Jan-Mar of a 50,000-entry year (25,000 lines)", 25000, " lines/s",
                  [&] { return bench::seconds([&] { EncheMovRazao(con, trimestre); }); },
                  [&] { return bench::seconds([&] { razaoBruto(bruto, 3); }); }},
                 {"balance update, 500 accounts, 50,000 entries", 1, " runs/s",
@@ -502,7 +502,11 @@ int main(int argc, char **argv)
                  [&] { return atualizaPeloForm(); }, [&] { return atualizaComoHabtool(); }},
                 {"trial balance fill, 500 accounts", 500, " accounts/s",
                  [&] { return bench::seconds([&] { EncheRBalancete(con, QStringLiteral("3"), QString(), false, QStringLiteral("2008")); }); },
-                 [&] { return bench::seconds([&] { balanceteBruto(bruto); }); }}},
-               bench::pairsWanted(argc, argv, 5));
+                 [&] { return bench::seconds([&] { balanceteBruto(bruto); }); }}};
+    // "--so=TEXT": only the pairs whose work names TEXT (--so=frmMov_Atualiza).
+    for (int i = 1; i < argc; ++i)
+        if (std::strncmp(argv[i], "--so=", 5) == 0)
+            std::erase_if(pares, [&](const bench::Pair &p) { return !std::strstr(p.work, argv[i] + 5); });
+    bench::run(pares, bench::pairsWanted(argc, argv, 5));
     return 0;
 }

@@ -147,26 +147,7 @@ QString sqlRetificaRecibo(const ReciboManual &r, const std::vector<ItemRecibo> &
     s += dataOuNull("drecbto", r.drecbto);
     s += QStringLiteral("Tipcob = '") + r.tipcob + QStringLiteral("',");
     s += QStringLiteral("Tipbolbco = '") + r.tipbolbco + QStringLiteral("',");
-    for (int i = 0; i < kSlotsRecibo; ++i) {
-        const QString n = QString::number(i);
-        if (size_t(i) < itens.size()) {
-            const ItemRecibo &it = itens[size_t(i)];
-            s += QStringLiteral("item") + n + QStringLiteral(" = '") + ZeroEsq(it.item, 3) + QStringLiteral("',");
-            s += QStringLiteral("comp") + n + QStringLiteral(" = \"") + it.comp + QStringLiteral("\",");
-            s += QStringLiteral("refer") + n + QStringLiteral(" = '") + doubleText(it.refer) + QStringLiteral("',");
-            s += QStringLiteral("valor") + n + QStringLiteral(" = '") + textoValor(it.valor) + QStringLiteral("',");
-        } else {
-            s += QStringLiteral("item") + n + QStringLiteral(" = ' ',");
-            s += QStringLiteral("comp") + n + QStringLiteral(" = ' ',");
-            s += QStringLiteral("refer") + n + QStringLiteral(" = 0,");
-            s += QStringLiteral("valor") + n + QStringLiteral(" = 0,");
-        }
-    }
-    s += QStringLiteral("vtoth = '") + textoValor(t.vtoth) + QStringLiteral("',");
-    s += QStringLiteral("vtotr = '") + textoValor(t.vtotr) + QStringLiteral("',");
-    s += QStringLiteral("vtott = '") + textoValor(t.vtott) + QStringLiteral("',");
-    s += QStringLiteral("vtotd = '") + textoValor(t.vtotd) + QStringLiteral("',");
-    s += QStringLiteral("vtotal = '") + textoValor(t.vtotal) + QStringLiteral("'");
+    s += sqlItensTotais(itens, t);
     s += QStringLiteral(" Where codigo = '") + r.numero + QStringLiteral("'");
     return s;
 }

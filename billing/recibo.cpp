@@ -87,6 +87,32 @@ QString textoValor(Money valor)
     return moneyText(valor);
 }
 
+QString sqlItensTotais(const std::vector<ItemRecibo> &itens, const TotaisRecibo &t)
+{
+    QString s;
+    for (int i = 0; i < kSlotsRecibo; ++i) {
+        const QString n = QString::number(i);
+        if (size_t(i) < itens.size()) {
+            const ItemRecibo &it = itens[size_t(i)];
+            s += QStringLiteral("item") + n + QStringLiteral(" = '") + ZeroEsq(it.item, 3) + QStringLiteral("',");
+            s += QStringLiteral("comp") + n + QStringLiteral(" = \"") + it.comp + QStringLiteral("\",");
+            s += QStringLiteral("refer") + n + QStringLiteral(" = '") + doubleText(it.refer) + QStringLiteral("',");
+            s += QStringLiteral("valor") + n + QStringLiteral(" = '") + textoValor(it.valor) + QStringLiteral("',");
+        } else {
+            s += QStringLiteral("item") + n + QStringLiteral(" = ' ',");
+            s += QStringLiteral("comp") + n + QStringLiteral(" = ' ',");
+            s += QStringLiteral("refer") + n + QStringLiteral(" = 0,");
+            s += QStringLiteral("valor") + n + QStringLiteral(" = 0,");
+        }
+    }
+    s += QStringLiteral("vtoth = '") + textoValor(t.vtoth) + QStringLiteral("',");
+    s += QStringLiteral("vtotr = '") + textoValor(t.vtotr) + QStringLiteral("',");
+    s += QStringLiteral("vtott = '") + textoValor(t.vtott) + QStringLiteral("',");
+    s += QStringLiteral("vtotd = '") + textoValor(t.vtotd) + QStringLiteral("',");
+    s += QStringLiteral("vtotal = '") + textoValor(t.vtotal) + QStringLiteral("'");
+    return s;
+}
+
 bool numeroDaCelula(const QString &celula, double *numero)
 {
     bool ok = false;

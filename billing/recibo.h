@@ -70,6 +70,9 @@ QString textoData(const QDate &data);
 QString textoTotalInsert(Money valor);
 // A total or amount in an UPDATE: the plain money text ("90", "-10", "12,5").
 QString textoValor(Money valor);
+// The ten item slots and the five totals of an UPDATE of Recibos, from
+// "item0 = " to "vtotal = '...'": the items given, then empty slots.
+QString sqlItensTotais(const std::vector<ItemRecibo> &itens, const TotaisRecibo &t);
 
 // ---- The item grid (frmRecibos, frmRecBaixa) ----------------------------------------
 // One row of the grid as typed: columns 0 "Cod.", 2 "Compl.", 3 "Ref.", 4 "Valor".

@@ -6,6 +6,7 @@
 #include "core/datastore.h"
 
 #include "core/conversions.h"
+#include "core/dbfiles.h"
 #include "core/jetdialect.h"
 #include "core/schemacatalog.h"
 #include "core/transaction.h"
@@ -535,6 +536,7 @@ void registerFunctions(sqlite3 *db)
 struct Connection::Impl {
     sqlite3 *db = nullptr;
     QString path;
+    QString inUseKey;  // the file as the registry of open files knows it
     QHash<QString, std::shared_ptr<Prepared>> cache;
     QHash<QString, std::vector<ColumnDef>> tableColumns;  // by lower-case name; empty: no such table
     jet::Lexed lexed;
@@ -765,6 +767,21 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
 }
 
 namespace {
+// The files that connections of this program hold open, by canonical path,
+// with the number of connections on each.
+QHash<QString, int> &openFiles()
+{
+    static QHash<QString, int> files;
+    return files;
+}
+
+QString inUseKeyOf(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
 StatementListener &statementListener()
 {
     static StatementListener listener;
@@ -849,11 +866,14 @@ void Connection::Impl::executeUncached(const jet::Translation &tr, const QString
                 throw DatabaseError(QStringLiteral("A tabela '%1' não existe.").arg(tr.copyTable), sql);
             QStringList names;
             sqlite3_stmt *st = nullptr;
-            const QByteArray q = QStringLiteral("SELECT name FROM %1.pragma_table_info(?1)").arg(tr.copySourceAlias).toUtf8();
-            if (sqlite3_prepare_v2(db, q.constData(), -1, &st, nullptr) != SQLITE_OK)
+            // The schema goes as the pragma's second argument: a schema
+            // prefix before pragma_table_info would read the main file's table.
+            if (sqlite3_prepare_v2(db, "SELECT name FROM pragma_table_info(?1, ?2)", -1, &st, nullptr) != SQLITE_OK)
                 fail(sql);
             const QByteArray t = tr.copySourceTable.toUtf8();
+            const QByteArray alias = tr.copySourceAlias.toUtf8();
             sqlite3_bind_text(st, 1, t.constData(), int(t.size()), SQLITE_TRANSIENT);
+            sqlite3_bind_text(st, 2, alias.constData(), int(alias.size()), SQLITE_TRANSIENT);
             while (sqlite3_step(st) == SQLITE_ROW)
                 names << QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(st, 0)));
             sqlite3_finalize(st);
@@ -937,12 +957,22 @@ void Connection::Open(const QString &connectionString)
         throw DatabaseError(e.message(), connectionString);
     }
     registerFunctions(db);
+    impl_->inUseKey = inUseKeyOf(path);
+    ++openFiles()[impl_->inUseKey];
+}
+
+bool databaseInUse(const QString &path)
+{
+    return openFiles().value(inUseKeyOf(path)) > 0;
 }
 
 void Connection::Close()
 {
     if (!impl_->db)
         return;
+    if (!impl_->inUseKey.isEmpty() && --openFiles()[impl_->inUseKey] <= 0)
+        openFiles().remove(impl_->inUseKey);
+    impl_->inUseKey.clear();
     impl_->forgetSchema();  // finalizes the cached statements
     impl_->finalizeSteps();
     // The last connection to close checkpoints the journal into the file and

@@ -11,3 +11,6 @@ bool ValidaUF(const QString &uf);      // reads Estados on session.conSistema
 // registered, with kNomeUsuarioInvalido.
 bool NomeUsuarioValido(const QString &nome);
 inline const QString kNomeUsuarioInvalido = QStringLiteral("O nome do usuário não pode conter apóstrofo (') !");
+// An amount typed that is not a number (letters, two commas): the forms that
+// read amounts themselves say so with this text.
+inline const QString kValorInvalido = QStringLiteral("Valor inválido, digite o valor como 1.234,56 !");

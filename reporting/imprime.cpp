@@ -45,6 +45,8 @@ ReportViewer setReportViewer(ReportViewer v)
     return old;
 }
 
+bool temVisualizador() { return bool(viewer()); }
+
 ReportPrinter setReportPrinter(ReportPrinter p) { return std::exchange(directPrinter(), std::move(p)); }
 
 std::shared_ptr<const ReportDocument> lastReport()

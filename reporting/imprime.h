@@ -22,6 +22,8 @@ using ReportViewer = std::function<void(std::shared_ptr<const ReportDocument>)>;
 // returns the one it replaces. With no viewer the report is only kept as the
 // last report.
 ReportViewer setReportViewer(ReportViewer viewer);
+// True when a viewer is installed to show what is printed.
+bool temVisualizador();
 // Takes the direct prints in place of the default printer (habdrive writes
 // them as PDF files); returns the one it replaces. True when printed.
 using ReportPrinter = std::function<bool(std::shared_ptr<const ReportDocument>)>;

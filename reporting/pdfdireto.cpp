@@ -182,6 +182,20 @@ private:
         else if (flags & Qt::AlignHCenter)
             left = box.left() + (box.width() - w) / 2;
         const bool corta = clip && (w > box.width() + 1e-6 || left < box.left() - 1e-6);
+        QByteArray visivel = t;
+        if (corta && !(flags & (Qt::AlignRight | Qt::AlignHCenter))) {
+            // A text cut at its box keeps only the characters that show whole:
+            // the text read back from the PDF is then what the page shows, and
+            // never runs into the next column.
+            qsizetype cabe = 0, nao = visivel.size();
+            while (nao - cabe > 1) {
+                const qsizetype meio = (cabe + nao) / 2;
+                (largura(f, visivel.left(meio)) <= box.width() + 1e-6 ? cabe : nao) = meio;
+            }
+            visivel.truncate(cabe);
+            if (visivel.isEmpty())
+                return;
+        }
         if (corta) {
             HPDF_Page_GSave(page_);
             retangulo(box);
@@ -190,7 +204,7 @@ private:
         }
         HPDF_Page_BeginText(page_);
         HPDF_Page_SetFontAndSize(page_, f.font, HPDF_REAL(f.size));
-        HPDF_Page_TextOut(page_, HPDF_REAL(x(left)), HPDF_REAL(y(base)), t.constData());
+        HPDF_Page_TextOut(page_, HPDF_REAL(x(left)), HPDF_REAL(y(base)), visivel.constData());
         HPDF_Page_EndText(page_);
         if (corta)
             HPDF_Page_GRestore(page_);

@@ -368,8 +368,10 @@ void Layout::place(const Band *band, double keepWith)
     double h = 0;
     auto items = prepare(*band, h);
     // A band never splits: it goes whole to the next page. One taller than a
-    // whole page prints at the top of its own page, cut at the footer.
-    if (y_ + h + keepWith > bodyBottom_ + 1e-6 && pageHasBody_) {
+    // whole page prints at the top of its own page, cut at the footer. A
+    // newpage band (one letter a unit, one account of the ledger) always opens
+    // a page of its own.
+    if ((band->newPage || y_ + h + keepWith > bodyBottom_ + 1e-6) && pageHasBody_) {
         closePage();
         startPage();
         items = prepare(*band, h);   // page numbers changed

@@ -305,7 +305,8 @@ void Parser::parseBand(const std::vector<Token> &tokens)
             if (b.height < 0)
                 fail(QStringLiteral("height não pode ser negativa"));
             temAltura = true;
-        }
+        } else if (key == QLatin1String("newpage") && value.isEmpty())
+            b.newPage = true;
         else
             fail(QStringLiteral("opção desconhecida em band: \"%1\"").arg(tokens[i].text));
     }
@@ -474,6 +475,11 @@ ReportTemplate Parser::parse(const QString &text)
                 fail(QStringLiteral("font precisa de \"família\" e tamanho"));
             t_.font.family = tokens[1].text;
             t_.font.size = number(tokens[2], "o tamanho da fonte");
+        } else if (word == QLatin1String("source")) {
+            if (tokens.size() != 3 || !tokens[1].quoted || !tokens[2].quoted)
+                fail(QStringLiteral("source precisa de \"arquivo\" e \"comando\""));
+            t_.sourceFile = tokens[1].text;
+            t_.sourceSql = tokens[2].text;
         } else if (word == QLatin1String("labels")) {
             if (!t_.bands.empty())
                 fail(QStringLiteral("labels deve vir antes das bands"));

@@ -66,6 +66,7 @@ struct Band {
     BandKind kind = BandKind::Detail;
     int group = -1;                     // group headers and footers: index in ReportTemplate::groups
     double height = 0;
+    bool newPage = false;               // starts a page of its own (a group header: each group on new pages)
     Condition when;
     std::vector<Item> items;
     int line = 0;
@@ -88,6 +89,9 @@ struct ReportTemplate {
     LabelLayout labels;
     QStringList groups;                 // group fields, outermost first
     std::vector<Band> bands;
+    // A template bound to its own data: the statement it reads from a file of
+    // the program directory (`source`). Empty for a template handed its table.
+    QString sourceFile, sourceSql;
 
     // The band of this kind (and group), or nullptr.
     const Band *band(BandKind kind, int group = -1) const;

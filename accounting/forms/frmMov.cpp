@@ -176,8 +176,7 @@ void frmMov::tdbAno_LostFocus()
     // A year without its journal table would fail on every statement: it is
     // refused before anything is written.
     if (!existeTabelaAno(cn_, tabela)) {
-        MsgBox(QStringLiteral("Não há tabela de lançamentos do ano %1 (%2) neste condomínio: os lançamentos vão de 2000 a 2008 !")
-                   .arg(ano, tabela),
+        MsgBox(semTabelaDoAno(ano),
                vbExclamation, kAtencao);
         QTimer::singleShot(0, tdbAno_, [this] {
             if (!fechando(*this))

@@ -47,6 +47,8 @@ frmMovPesq::frmMovPesq(QWidget *parent) : QDialog(parent)
     tdbPesq_->setObjectName(QStringLiteral("tdbPesq"));
     tdbPesq_->modelo()->setTitulos(colunas);
     tdbPesq_->modelo()->setColunaNumerica(0);
+    tdbPesq_->modelo()->setTipoColuna(1, GradeModel::Data);
+    tdbPesq_->modelo()->setTipoColuna(5, GradeModel::Valor);
 
     auto *busca = new QHBoxLayout;
     busca->addWidget(new QLabel(QStringLiteral("Pesquisar por:"), this));

@@ -57,8 +57,7 @@ void frmMov_Atualiza::cmdAtualiza_Click()
     }
     const QString tabela = tabelaDoAno(texto);
     if (!existeTabelaAno(cn_, tabela)) {
-        MsgBox(QStringLiteral("Não há tabela de lançamentos do ano %1 (%2) neste condomínio: os lançamentos vão de 2000 a 2008 !")
-                   .arg(texto.right(4), tabela),
+        MsgBox(semTabelaDoAno(texto.right(4)),
                vbExclamation, QStringLiteral("Atenção..."));
         tdbAnomesfim_->setFocus();
         return;
@@ -68,19 +67,21 @@ void frmMov_Atualiza::cmdAtualiza_Click()
     pbrprogresso_->show();
     pintura_.start();
     AtualizaSaldos(cn_, texto, [this](const Progress &p) {
+        // The window shows the run as it goes: a new pass at once, the bars
+        // every 40 ms. A bar is set only then, since each value that moves it
+        // by a pixel repaints it there and then; the user's clicks wait for
+        // the end of the run.
+        if (lblProgresso_->text() == p.text && pintura_.elapsed() <= 40)
+            return;
         pbrProgressoG_->setRange(p.overallMin, p.overallMax);
         pbrProgressoG_->setValue(p.overallValue);
         pbrprogresso_->setRange(p.min, p.max);
         pbrprogresso_->setValue(p.value);
-        const bool novoPasso = lblProgresso_->text() != p.text;
         lblProgresso_->setText(p.text);
-        // The window paints during the run (a new pass at once, the bars a few
-        // times a second); the user's clicks wait for its end.
-        if (novoPasso || pintura_.elapsed() > 40) {
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            pintura_.restart();
-        }
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        pintura_.restart();
     });
+    pbrprogresso_->setValue(pbrprogresso_->maximum());
     pbrProgressoG_->setValue(pbrProgressoG_->maximum());
     lblProgresso_->setText(kAtualizacaoFinalizada);
     cmdSair_->setFocus();

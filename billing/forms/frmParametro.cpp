@@ -189,9 +189,12 @@ bool frmParametro::grava(bool focoNoRecibo)
         for (const ErroGravacao &e : erros)
             AnotaErro(e.tipo, e.mensagem);
         session.temErros = true;
+        // The number may be skipped ahead, never reused: there is nothing to
+        // choose, so the list offers only OK.
         frmErros dlg(this);
+        dlg.semEscolha(QStringLiteral("Os parâmetros não foram gravados: informe um número igual ou maior !"));
         showModal(dlg);
-        session.cancelaGrava = false;  // the save is dropped whatever was answered
+        session.cancelaGrava = false;
         if (focoNoRecibo)
             ui_->mskNrRecibo->setFocus();
         return false;

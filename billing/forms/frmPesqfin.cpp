@@ -1,6 +1,7 @@
 #include "billing/forms/frmPesqfin.h"
 
 #include "billing/eventtot.h"
+#include "billing/relatorios.h"
 #include "core/conversions.h"
 #include "core/prompter.h"
 #include "core/session.h"
@@ -81,15 +82,6 @@ QString frmPesqfin::modelo() const
     return QStringLiteral("L");
 }
 
-static QString tituloDaSituacao(QChar s)
-{
-    if (s == u'A')
-        return QStringLiteral("Recibos em Aberto");
-    if (s == u'B')
-        return QStringLiteral("Recibos Baixados");
-    return QStringLiteral("Todos os Recibos");
-}
-
 void frmPesqfin::cmdImprimir_Click()
 {
     const Filtro f = condicoes_->filtro();
@@ -111,7 +103,7 @@ void frmPesqfin::cmdImprimir_Click()
         MsgBox(QStringLiteral("Não há valores na condição especificada !"), vbExclamation, QStringLiteral("Erro"));
         return;
     }
-    const QString titu = tituloDaSituacao(f.situacao) + QStringLiteral(" - ordem: ")
+    const QString titu = tituloSituacao(f.situacao) + QStringLiteral(" - ordem: ")
         + (f.ordem.isEmpty() ? camposFiltro().first() : f.ordem);
     const ReportFormulas formulas{{QStringLiteral("Titu"), titu},
                                   {QStringLiteral("Tot"), QString::number(quantos)},

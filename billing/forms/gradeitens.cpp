@@ -4,6 +4,7 @@
 #include "core/datastore.h"
 #include "core/prompter.h"
 #include "core/val.h"
+#include "core/validators.h"
 
 #include <QHeaderView>
 
@@ -174,6 +175,7 @@ void GradeItens::celulaMudou(QTableWidgetItem *it)
         double v = 0;
         if (!texto.isEmpty() && !numeroDaCelula(texto, &v)) {
             volta();
+            MsgBox(kValorInvalido, vbExclamation, QStringLiteral("Atenção..."));
         } else {
             poe(r, c, texto.isEmpty() ? QString()
                                       : (c == Ref ? formatNumber(v, QStringLiteral("###0.0000")) : textoValor(v)));

@@ -90,3 +90,11 @@ frmErros::frmErros(QWidget *parent) : QDialog(parent)
         cmdOk_->hide();
     }
 }
+
+void frmErros::semEscolha(const QString &mensagem)
+{
+    lblMensagem_->setText(mensagem);
+    cmdSim_->hide();
+    cmdNao_->hide();
+    cmdOk_->show();
+}

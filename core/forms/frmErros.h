@@ -12,6 +12,9 @@ class frmErros : public QDialog {
     Q_OBJECT
 public:
     explicit frmErros(QWidget *parent = nullptr);
+    // For findings that stop the save whatever is answered: only OK, with
+    // this line in place of the question.
+    void semEscolha(const QString &mensagem);
 
 private:
     QTableWidget *tdbErros_;

@@ -1,5 +1,6 @@
 #include "core/widgets/grade.h"
 
+#include "core/conversions.h"
 #include "core/val.h"
 
 #include <QHeaderView>
@@ -12,15 +13,15 @@ void GradeModel::setTitulos(const QStringList &titulos)
 {
     beginResetModel();
     titulos_ = titulos;
-    numerica_.resize(titulos.size());
+    tipos_.resize(titulos.size());
     endResetModel();
 }
 
-void GradeModel::setColunaNumerica(int coluna, bool numerica)
+void GradeModel::setTipoColuna(int coluna, Tipo tipo)
 {
-    if (coluna >= numerica_.size())
-        numerica_.resize(coluna + 1);
-    numerica_[coluna] = numerica;
+    if (coluna >= tipos_.size())
+        tipos_.resize(coluna + 1);
+    tipos_[coluna] = tipo;
 }
 
 void GradeModel::limpa()
@@ -70,8 +71,18 @@ int GradeModel::linhaDe(int coluna, const QString &texto) const
 bool GradeModel::menor(const QStringList &a, const QStringList &b, int coluna) const
 {
     const QString &x = a.value(coluna), &y = b.value(coluna);
-    if (numerica_.value(coluna))
+    switch (tipos_.value(coluna)) {
+    case Numero:
         return val(x) < val(y);
+    case Data:
+        return dateFromText(x) < dateFromText(y);   // an empty cell (no date) first
+    case Valor: {
+        auto valor = [](QString t) { return val(VirgulaPonto(t.remove(u'.'))); };
+        return valor(x) < valor(y);
+    }
+    case Texto:
+        break;
+    }
     return QString::compare(x, y, Qt::CaseInsensitive) < 0;
 }
 
@@ -101,10 +112,18 @@ void GradeModel::sort(int column, Qt::SortOrder order)
 
 int GradeModel::procura(int coluna, const QString &texto)
 {
-    if (numerica_.value(coluna))
+    if (tipos_.value(coluna) == Numero)
         return procuraNumero(coluna, val(texto));
     if (colunaOrdenada_ != coluna || ordem_ != Qt::AscendingOrder)
         sort(coluna, Qt::AscendingOrder);
+    if (tipos_.value(coluna) != Texto) {
+        // Part of a date or an amount has no place in their order: the first
+        // row, in that order, whose text begins with it.
+        for (int r = 0; r < linhas_.size(); ++r)
+            if (linhas_[r].value(coluna).startsWith(texto, Qt::CaseInsensitive))
+                return r;
+        return -1;
+    }
     QStringList alvo;
     for (int c = 0; c <= coluna; ++c)
         alvo << QString();
@@ -137,7 +156,8 @@ QVariant GradeModel::data(const QModelIndex &index, int role) const
         return {};
     if (role == Qt::DisplayRole)
         return texto(index.row(), index.column());
-    if (role == Qt::TextAlignmentRole && numerica_.value(index.column()))
+    if (role == Qt::TextAlignmentRole
+        && (tipos_.value(index.column()) == Numero || tipos_.value(index.column()) == Valor))
         return int(Qt::AlignRight | Qt::AlignVCenter);
     return {};
 }

@@ -14,8 +14,13 @@ public:
     explicit GradeModel(QObject *parent = nullptr);
 
     void setTitulos(const QStringList &titulos);
+    // How a column sorts: as text (without regard to case), by the number its
+    // text reads (codes), as a date "dd/mm/yyyy", or as an amount shown the
+    // Brazilian way ("1.234,56").
+    enum Tipo : char { Texto, Numero, Data, Valor };
+    void setTipoColuna(int coluna, Tipo tipo);
     // A numeric column sorts and searches by the number its text reads (codes).
-    void setColunaNumerica(int coluna, bool numerica = true);
+    void setColunaNumerica(int coluna, bool numerica = true) { setTipoColuna(coluna, numerica ? Numero : Texto); }
 
     void limpa();
     void adiciona(const QStringList &linha);
@@ -30,9 +35,10 @@ public:
     int lugarOrdenado(const QStringList &celulas) const;
 
     int colunaOrdenada() const { return colunaOrdenada_; }
-    // Ordered search on a column (the table is sorted on it first). A text
-    // column finds the first row that begins with the text, without regard to
-    // case; a numeric column the row whose number is the value. -1: not found.
+    // Ordered search on a column (the table is sorted on it first). A text,
+    // date or amount column finds the first row that begins with the text,
+    // without regard to case; a numeric column the row whose number is the
+    // value. -1: not found.
     int procura(int coluna, const QString &texto);
     int procuraNumero(int coluna, double valor);
 
@@ -46,7 +52,7 @@ private:
     bool menor(const QStringList &a, const QStringList &b, int coluna) const;
 
     QStringList titulos_;
-    QVector<bool> numerica_;
+    QVector<Tipo> tipos_;
     QVector<QStringList> linhas_;
     int colunaOrdenada_ = -1;
     Qt::SortOrder ordem_ = Qt::AscendingOrder;

@@ -58,14 +58,11 @@ public:
     // A user of the system file with the settle, alter and delete rights given.
     void usuario(int codigo, const QString &nome, bool cfbai, bool cfalt, bool cfexc, bool cfadi = true)
     {
-        Connection sistema;
-        sistema.Open(session.conSistema);
         auto b = [](bool v) { return v ? QStringLiteral("True") : QStringLiteral("False"); };
-        sistema.Execute(QStringLiteral("INSERT INTO usuarios(codigo,nome,senha,impressora,dsenha,empat,bdcon,bdadi,"
+        dir.execSistema(QStringLiteral("INSERT INTO usuarios(codigo,nome,senha,impressora,dsenha,empat,bdcon,bdadi,"
                                        "bdexc,bdalt,cfcon,cfadi,cfexc,cfalt,cfbai) VALUES('%1',\"%2\",\"x\",'M',"
                                        "'01/01/2003','1',True,True,True,True,True,%3,%4,%5,%6)")
                             .arg(QString::number(codigo), nome, b(cfadi), b(cfexc), b(cfalt), b(cfbai)));
-        sistema.Close();
     }
 
     // Parameters of a month: emission "0203" of 05/02/2003, due in 02/2003,
@@ -88,6 +85,9 @@ public:
         return p;
     }
 
+    // The first row of a read, its columns as "a|b|c" (leLinha).
+    QString linha(const QString &sql) const { return leLinha(session.conAtiva, sql); }
+    QString linhas(const QString &sql) const { return leLinhas(session.conAtiva, sql); }
     // One value of one row, as text.
     QString valor(const QString &sql, const char *coluna)
     {

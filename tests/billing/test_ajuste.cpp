@@ -46,9 +46,8 @@ TEST(AjusteTaxas, AllApartmentsAndByType)
     c.apto(2, QStringLiteral("Sem cabina"), 300, 15, 0, 10, QStringLiteral("A"), QStringLiteral("1"), QStringLiteral("01"));
     c.apto(3, QStringLiteral("Aposentado"), 300, 0, 0, 10, QStringLiteral("A"), QStringLiteral("1"), QStringLiteral("02"),
            false, true);
-    auto aptos = [&](int n, const char *col) {
-        return c.valor(QStringLiteral("SELECT * FROM Aptos WHERE codigo = '%1'").arg(n, 6, 10, QLatin1Char('0')), col);
-    };
+    // honcb, diavcto and honor of the three units.
+    auto aptos = [] { return leLinhas(session.conAtiva, QStringLiteral("SELECT honcb,diavcto,honor FROM Aptos ORDER BY codigo")); };
 
     ScriptedPrompter prompt;
     EXPECT_FALSE(ajustaTodos(c.con, AjusteTaxas{}));
@@ -58,22 +57,19 @@ TEST(AjusteTaxas, AllApartmentsAndByType)
     a.apos = 25;
     prompt.answer(vbNo, QStringLiteral("Tem certeza que deseja fazer os ajustes ?"));
     EXPECT_FALSE(ajustaTodos(c.con, a));
-    EXPECT_EQ(aptos(1, "honcb"), QStringLiteral("15"));
+    EXPECT_EQ(aptos(), QStringLiteral("15|10|300\n15|10|300\n0|10|300\n"));
 
     prompt.answer(vbYes);
     EXPECT_TRUE(ajustaTodos(c.con, a));
     EXPECT_EQ(prompt.last().text, QStringLiteral("Ajuste Finalizado !!!"));
-    EXPECT_EQ(aptos(1, "honcb"), QStringLiteral("30"));
-    EXPECT_EQ(aptos(2, "honcb"), QStringLiteral("0"));
-    EXPECT_EQ(aptos(1, "diavcto"), QStringLiteral("10"));  // normal 0 leaves the day
-    EXPECT_EQ(aptos(3, "diavcto"), QStringLiteral("25"));
+    // Only a unit with a cabin keeps that fee; normal 0 leaves the day, the retired get theirs.
+    EXPECT_EQ(aptos(), QStringLiteral("30|10|300\n0|10|300\n0|25|300\n"));
 
     AjusteTaxas tipo2;
     tipo2.honor = reais(500);
     prompt.answer(vbYes);
     EXPECT_TRUE(ajustaPorTipo(c.con, {{QStringLiteral("01"), AjusteTaxas{}}, {QStringLiteral("02"), tipo2}}));
-    EXPECT_EQ(aptos(1, "honor"), QStringLiteral("300"));
-    EXPECT_EQ(aptos(3, "honor"), QStringLiteral("500"));
+    EXPECT_EQ(aptos(), QStringLiteral("30|10|300\n0|10|300\n0|25|500\n"));
 }
 
 TEST(RecalculoTotais, RepairMovesTheRunsFeeIntoItsTypesTotal)
@@ -87,10 +83,8 @@ TEST(RecalculoTotais, RepairMovesTheRunsFeeIntoItsTypesTotal)
         prompt.answer(vbYes);
         ASSERT_EQ(emissaoAutomatica(c.con, p).emitidos, 1);
     }
-    const QString r1 = QStringLiteral("SELECT * FROM Recibos WHERE codigo = '000001'");
     // The run put the fund (event 003, type R) into vtoth.
-    EXPECT_EQ(c.dinheiro(r1, "vtoth"), reais(340));
-    EXPECT_EQ(c.dinheiro(r1, "vtotr"), Money());
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT vtoth,vtotr FROM Recibos WHERE codigo = '000001'")), QStringLiteral("340|0"));
 
     // Receipts of the fixed date or before are left alone; all ten slots count,
     // a zero slot doesn't stop the sum; 13609 halts with a box and changes nothing.
@@ -102,12 +96,8 @@ TEST(RecalculoTotais, RepairMovesTheRunsFeeIntoItsTypesTotal)
     ScriptedPrompter prompt;
     EXPECT_EQ(recalculaTotais(c.con), 2);
     ASSERT_EQ(prompt.calls.size(), 1u);
-    EXPECT_EQ(c.dinheiro(r1, "vtoth"), reais(300));
-    EXPECT_EQ(c.dinheiro(r1, "vtotr"), reais(40));
-    EXPECT_EQ(c.dinheiro(r1, "vtotal"), reais(340));
-    EXPECT_EQ(c.dinheiro(QStringLiteral("SELECT * FROM Recibos WHERE codigo = '000002'"), "vtoth"), Money());
-    const QString r3 = QStringLiteral("SELECT * FROM Recibos WHERE codigo = '013609'");
-    EXPECT_EQ(c.dinheiro(r3, "vtoth"), reais(50));
-    EXPECT_EQ(c.dinheiro(r3, "vtott"), reais(7));
-    EXPECT_EQ(c.dinheiro(r3, "vtotal"), reais(60));  // event 099 doesn't exist: vtotal only
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT vtoth,vtotr,vtotal FROM Recibos WHERE codigo = '000001'")), QStringLiteral("300|40|340"));
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT vtoth FROM Recibos WHERE codigo = '000002'")), QStringLiteral("0"));
+    // Event 099 doesn't exist: it counts in vtotal only.
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT vtoth,vtott,vtotal FROM Recibos WHERE codigo = '013609'")), QStringLiteral("50|7|60"));
 }

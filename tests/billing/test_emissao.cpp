@@ -92,35 +92,17 @@ TEST(EmissaoAutomatica, TwoHundredApartmentsFromFnreci100)
     EXPECT_EQ(r.emitidos, 200);
     EXPECT_EQ(r.fnreci, QStringLiteral("000300"));
     EXPECT_EQ(c.valor(QStringLiteral("SELECT fnreci FROM Parametros Where codigo = 1"), "fnreci"), QStringLiteral("000300"));
-    EXPECT_EQ(c.conta(QStringLiteral("SELECT Count(codauto) As I FROM Recibos")), 200);
-    EXPECT_EQ(c.valor(QStringLiteral("SELECT MIN(codigo) as m FROM Recibos"), "m"), QStringLiteral("000101"));
-    EXPECT_EQ(c.valor(QStringLiteral("SELECT MAX(codigo) as m FROM Recibos"), "m"), QStringLiteral("000300"));
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT Count(codauto) As I, MIN(codigo) as a, MAX(codigo) as b FROM Recibos")),
+              QStringLiteral("200|000101|000300"));
 
     // Order by code: apartment 1 got 000101; the apartment holds the receipt's own number.
-    EXPECT_EQ(c.valor(recibo(QStringLiteral("000101")), "codap"), QStringLiteral("000001"));
-    EXPECT_EQ(c.valor(QStringLiteral("SELECT nrecibo FROM Aptos WHERE codigo = '000001'"), "nrecibo"), QStringLiteral("000101"));
-    EXPECT_EQ(c.valor(QStringLiteral("SELECT nemis FROM Aptos WHERE codigo = '000001'"), "nemis"), QStringLiteral("0203"));
-    EXPECT_EQ(c.valor(QStringLiteral("SELECT demis FROM Aptos WHERE codigo = '000001'"), "demis"), QStringLiteral("05/02/2003"));
-
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT nrecibo,nemis,demis FROM Aptos WHERE codigo = '000001'")),
+              QStringLiteral("000101|0203|05/02/2003"));
     // Receipt of apartment 1: fee, cabin, fund; the fund's event is of type R
     // and still goes to vtoth.
-    const QString r1 = recibo(QStringLiteral("000101"));
-    EXPECT_EQ(c.valor(r1, "nemis"), QStringLiteral("0203"));
-    EXPECT_EQ(c.valor(r1, "demis"), QStringLiteral("05/02/2003"));
-    EXPECT_EQ(c.valor(r1, "dvencto"), QStringLiteral("10/02/2003"));
-    EXPECT_EQ(c.valor(r1, "situacao"), QStringLiteral("A"));
-    EXPECT_EQ(c.valor(r1, "tipcob"), QStringLiteral("1"));
-    EXPECT_EQ(c.valor(r1, "item0"), QStringLiteral("001"));
-    EXPECT_EQ(c.valor(r1, "comp0"), QStringLiteral("Fev/2003"));
-    EXPECT_EQ(c.dinheiro(r1, "valor0"), reais(350));
-    EXPECT_EQ(c.valor(r1, "item1"), QStringLiteral("002"));
-    EXPECT_EQ(c.dinheiro(r1, "valor1"), reais(20));
-    EXPECT_EQ(c.valor(r1, "item2"), QStringLiteral("003"));
-    EXPECT_EQ(c.dinheiro(r1, "valor2"), reais(15));
-    EXPECT_TRUE(c.valor(r1, "item3").isEmpty());
-    EXPECT_EQ(c.dinheiro(r1, "vtoth"), reais(385));
-    EXPECT_EQ(c.dinheiro(r1, "vtotr"), Money());
-    EXPECT_EQ(c.dinheiro(r1, "vtotal"), reais(385));
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT codap,nemis,demis,dvencto,situacao,tipcob,item0,comp0,valor0,item1,valor1,"
+                                     "item2,valor2,item3,vtoth,vtotr,vtotal FROM Recibos WHERE codigo = '000101'")),
+              QStringLiteral("000001|0203|05/02/2003|10/02/2003|A|1|001|Fev/2003|350|002|20|003|15||385|0|385"));
     // Apartment 2 has no cabin: the fund moves up to slot 1.
     EXPECT_EQ(c.valor(recibo(QStringLiteral("000102")), "item1"), QStringLiteral("003"));
     // Day 30 in February 2003.
@@ -200,17 +182,9 @@ TEST(EmissaoAutomatica, FixedEventsAddTheHonorConditionAndAreClassified)
     const ResultadoEmissao r = emissaoAutomatica(c.con, p);
     EXPECT_EQ(r.emitidos, 2);
     EXPECT_EQ(c.conta(QStringLiteral("SELECT Count(codauto) As I FROM Recibos WHERE codap = '000002'")), 0);
-    const QString r1 = recibo(QStringLiteral("000011"));
-    EXPECT_EQ(c.valor(r1, "codap"), QStringLiteral("000001"));
-    EXPECT_EQ(c.valor(r1, "item1"), QStringLiteral("030"));
-    EXPECT_EQ(c.valor(r1, "comp1"), QStringLiteral("Pontualidade"));
-    EXPECT_EQ(c.dinheiro(r1, "valor1"), reais(-12.3));
-    EXPECT_EQ(c.valor(r1, "item2"), QStringLiteral("020"));
-    EXPECT_EQ(c.dinheiro(r1, "vtoth"), reais(300));
-    EXPECT_EQ(c.dinheiro(r1, "vtotd"), reais(-12.3));
-    EXPECT_EQ(c.dinheiro(r1, "vtotr"), reais(5));
-    EXPECT_EQ(c.dinheiro(r1, "vtotal"), reais(292.7));
-    EXPECT_EQ(c.valor(r1, "dvencto"), QStringLiteral("10/03/2003"));
+    EXPECT_EQ(c.linha(QStringLiteral("SELECT codap,item1,comp1,valor1,item2,vtoth,vtotd,vtotr,vtotal,dvencto FROM Recibos "
+                                     "WHERE codigo = '000011'")),
+              QStringLiteral("000001|030|Pontualidade|-12,3|020|300|-12,3|5|292,7|10/03/2003"));
 }
 
 TEST(EmissaoAutomatica, MissingApartmentStopsTheRest)

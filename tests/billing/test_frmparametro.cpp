@@ -13,23 +13,6 @@
 
 namespace {
 
-// Every row of a table, every column as text.
-QStringList linhas(const QString &arquivo, const QString &sql)
-{
-    Connection con;
-    con.Open(kConnectionPrefix + arquivo + QStringLiteral(";"));
-    QStringList r;
-    for (Recordset rs = con.Execute(sql); !rs.eof(); rs.moveNext()) {
-        QStringList celulas;
-        const QStringList nomes = rs.columnNames();
-        for (int i = 0; i < nomes.size(); ++i)
-            celulas << nomes[i] + u'=' + rs.fieldAt(i).text();
-        r << celulas.join(u'|');
-    }
-    con.Close();
-    return r;
-}
-
 // What the bar shows at each paint of the run.
 class Pinturas : public QObject {
 public:
@@ -98,8 +81,9 @@ TEST(FrmParametro, AutomaticRunWritesWhatHabtoolWritesAndKeepsPainting)
 
     for (const char *sql : {"SELECT * FROM Recibos ORDER BY codigo", "SELECT * FROM Aptos ORDER BY codigo",
                             "SELECT fnreci FROM Parametros"}) {
-        const QStringList daForma = linhas(arquivo, QLatin1String(sql));
-        EXPECT_EQ(daForma, linhas(copia, QLatin1String(sql))) << sql;
+        auto linhas = [sql](const QString &arquivo) { return leLinhas(kConnectionPrefix + arquivo + u';', QLatin1String(sql)); };
+        const QString daForma = linhas(arquivo);
+        EXPECT_EQ(daForma, linhas(copia)) << sql;
         EXPECT_FALSE(daForma.isEmpty());
     }
 }

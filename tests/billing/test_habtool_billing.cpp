@@ -1,25 +1,8 @@
 #include "billing/baixa.h"
 #include "condominio.h"
+#include "support/habtoolrun.h"
 
-#include <QProcess>
 #include <gtest/gtest.h>
-
-namespace {
-
-struct Saida {
-    int status = -1;
-    QString out, err;
-};
-
-Saida habtool(const QStringList &args)
-{
-    QProcess p;
-    p.start(builtProgramDir() + QStringLiteral("habtool"), args);
-    p.waitForFinished(120000);
-    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
-}
-
-} // namespace
 
 TEST(HabtoolBilling, EmiteBaixaDesfazRecalcEventtotAjusta)
 {
@@ -31,8 +14,8 @@ TEST(HabtoolBilling, EmiteBaixaDesfazRecalcEventtotAjusta)
     c.con.Close();
     const QString arquivo = c.dir.file(QStringLiteral("Con001.mdb"));
 
-    Saida s = habtool({QStringLiteral("emite"), arquivo});
-    EXPECT_EQ(s.status, 0) << s.err.toStdString();
+    HabtoolResult s = habtool({QStringLiteral("emite"), arquivo});
+    EXPECT_EQ(s.exitCode, 0) << s.err.toStdString();
     EXPECT_EQ(s.out, QStringLiteral("emitidos 2\nfnreci 000012\n"));
     EXPECT_TRUE(s.err.contains(QStringLiteral("Foram selecionados 2 recibos")));
     // Already issued in this emission.
@@ -47,24 +30,24 @@ TEST(HabtoolBilling, EmiteBaixaDesfazRecalcEventtotAjusta)
     };
     fnreci("000011");
     s = habtool({QStringLiteral("emite"), arquivo, QStringLiteral("--sim")});
-    EXPECT_EQ(s.status, 1);
+    EXPECT_EQ(s.exitCode, 1);
     EXPECT_EQ(s.out, QString());
     EXPECT_TRUE(s.err.contains(QStringLiteral(
         "O número do maior recibo cadastrado é 000012 e você informou como recibo anterior o nr. 000011")));
     fnreci("000012");
-    EXPECT_EQ(habtool({QStringLiteral("emite"), arquivo, QStringLiteral("--sim")}).status, 0);
+    EXPECT_EQ(habtool({QStringLiteral("emite"), arquivo, QStringLiteral("--sim")}).exitCode, 0);
 
     s = habtool({QStringLiteral("baixa"), arquivo, QStringLiteral("11"), QStringLiteral("15/03/2003"), QStringLiteral("Caixa")});
-    EXPECT_EQ(s.status, 0) << s.err.toStdString();
+    EXPECT_EQ(s.exitCode, 0) << s.err.toStdString();
     EXPECT_EQ(s.out, QStringLiteral("valido %1\n").arg(11 + 37695 + 486));
     s = habtool({QStringLiteral("baixa"), arquivo, QStringLiteral("000012"), QStringLiteral("15/03/2003"), QStringLiteral("Ninguém")});
-    EXPECT_EQ(s.status, 1);
+    EXPECT_EQ(s.exitCode, 1);
     EXPECT_TRUE(s.err.contains(kMsgBaixaSemDireito));
     s = habtool({QStringLiteral("baixa"), arquivo, QStringLiteral("000099"), QStringLiteral("15/03/2003"), QStringLiteral("Caixa")});
-    EXPECT_EQ(s.status, 1);
+    EXPECT_EQ(s.exitCode, 1);
 
     s = habtool({QStringLiteral("baixa"), arquivo, QStringLiteral("000011"), QStringLiteral("--desfaz"), QStringLiteral("731")});
-    EXPECT_EQ(s.status, 0) << s.err.toStdString();
+    EXPECT_EQ(s.exitCode, 0) << s.err.toStdString();
     EXPECT_EQ(s.out, QStringLiteral("desfeita\n"));
 
     s = habtool({QStringLiteral("recalc"), arquivo});
@@ -73,9 +56,9 @@ TEST(HabtoolBilling, EmiteBaixaDesfazRecalcEventtotAjusta)
     EXPECT_EQ(s.out, QStringLiteral("001\tTaxa Condominial\tH\t550.00\n003\tFundo de Reserva\tR\t40.00\n"));
 
     s = habtool({QStringLiteral("ajusta"), arquivo, QStringLiteral("honor=320,5"), QStringLiteral("--tipo"), QStringLiteral("01")});
-    EXPECT_EQ(s.status, 0) << s.err.toStdString();
+    EXPECT_EQ(s.exitCode, 0) << s.err.toStdString();
     EXPECT_TRUE(s.err.contains(QStringLiteral("Ajuste Finalizado !!!")));
-    EXPECT_EQ(habtool({QStringLiteral("ajusta"), arquivo}).status, 1);
+    EXPECT_EQ(habtool({QStringLiteral("ajusta"), arquivo}).exitCode, 1);
 
     c.con.Open(session.conAtiva);
     EXPECT_EQ(c.valor(QStringLiteral("SELECT situacao FROM Recibos WHERE codigo = '000011'"), "situacao"), QStringLiteral("A"));

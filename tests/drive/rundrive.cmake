@@ -15,15 +15,103 @@
 # after every run, "PDF NAME.pdf pages N" and the text of that PDF as
 # pdftotext lays it out, blanks squeezed, empty lines left out: what a printed
 # paper says is checked as the rest of the output is. Today's date reads
-# @HOJE@ there, and a time right after it @HORA@.
+# @HOJE@ there, a time right after it @HORA@, and today written out
+# ("5 de Abril de 2008") @HOJE_EXTENSO@.
 # Files a run writes are compared with what the support console makes from
 # the same database (paths relative to the run's folder):
 #   "# snapshot: FILE COPY"  before the run, copies FILE to COPY;
 #   "# habtool: ARGS"        after the run, runs habtool ARGS; adds "HABTOOL exit N";
 #   "# same: A B"            then adds "SAME A B" when the two files are equal
 #                            byte for byte, "DIFFERENT A B" when not.
+#   "# figures: NNN-NAME.pdf FILE STATEMENT[ | STATEMENT...]"
+#                            then runs "habtool sql FILE" on the statements and
+#                            compares the figures of the PDF with its rows, line
+#                            by line: adds "FIGURES NAME N lines as habtool", or
+#                            "FIGURES NAME DIFFERENT" and the first lines apart.
 # A "# writes:" file whose name ends in .pdf must be a PDF; any other must exist.
+# @DATA@ in a script stands for today's date as yyyy-mm-dd (the names of
+# files the program dates), and today's date so written reads @DATA@ in the
+# output, a time after it as hh.mm.ss @HORA@.
 cmake_minimum_required(VERSION 3.25)
+
+# The figures of a printed paper: each line that begins with an account code
+# (01. or 01.001) or a date and holds an amount gives its codes, dates and
+# amounts, the amounts in habtool's plain form (28.112,08 -> 28112.08,
+# 350,00 -> 350). Names, descriptions, headings and totals stay out.
+function(pdf_figures pdf out)
+  if(NOT EXISTS "${pdf}")
+    set(${out} "(not written)" PARENT_SCOPE)
+    return()
+  endif()
+  execute_process(COMMAND pdftotext -layout "${pdf}" - OUTPUT_VARIABLE text RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "pdftotext failed on ${pdf}")
+  endif()
+  string(REPLACE ";" "," text "${text}")
+  string(REGEX REPLACE "\n" ";" lines "${text}")
+  set(result "")
+  foreach(line IN LISTS lines)
+    string(STRIP "${line}" line)
+    if(NOT line MATCHES "^([0-9][0-9]\\.|[0-9][0-9]/[0-9][0-9]/[0-9][0-9][0-9][0-9])")
+      continue()
+    endif()
+    string(REGEX MATCHALL "-?[0-9]+(\\.[0-9][0-9][0-9])*,[0-9][0-9]|[0-9][0-9]/[0-9][0-9]/[0-9][0-9][0-9][0-9]|[0-9][0-9]\\.([0-9][0-9][0-9])?"
+           tokens "${line}")
+    set(fields "")
+    set(amount FALSE)
+    foreach(t IN LISTS tokens)
+      if(t MATCHES ",")
+        string(REPLACE "." "" t "${t}")
+        string(REPLACE "," "." t "${t}")
+        string(REGEX REPLACE "(\\.[0-9]*[1-9])0+$" "\\1" t "${t}")
+        string(REGEX REPLACE "\\.0+$" "" t "${t}")
+        if(t STREQUAL "-0")
+          set(t "0")
+        endif()
+        set(amount TRUE)
+      endif()
+      string(APPEND fields " ${t}")
+    endforeach()
+    if(amount)
+      string(STRIP "${fields}" fields)
+      list(APPEND result "${fields}")
+    endif()
+  endforeach()
+  set(${out} "${result}" PARENT_SCOPE)
+endfunction()
+
+# The same from the rows habtool sql prints: fields that are codes, dates or
+# numbers, rows holding a number.
+function(habtool_figures file statements out)
+  string(REGEX REPLACE " *[|] *" "\n" statements "${statements}")
+  file(WRITE "${WORK}/figures.sql" "${statements}\n")
+  execute_process(COMMAND "${HABTOOL}" sql "${WORK}/${file}" INPUT_FILE "${WORK}/figures.sql"
+                  OUTPUT_VARIABLE text RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "habtool sql ${file} failed: ${text}")
+  endif()
+  string(REPLACE ";" "," text "${text}")
+  string(REGEX REPLACE "\n" ";" lines "${text}")
+  set(result "")
+  foreach(line IN LISTS lines)
+    string(REPLACE "\t" ";" cells "${line}")
+    set(fields "")
+    set(amount FALSE)
+    foreach(c IN LISTS cells)
+      if(c MATCHES "^[0-9][0-9]\\.([0-9][0-9][0-9])?$" OR c MATCHES "^[0-9][0-9]/[0-9][0-9]/[0-9][0-9][0-9][0-9]$")
+        string(APPEND fields " ${c}")
+      elseif(c MATCHES "^-?[0-9]+(\\.[0-9]+)?$")
+        string(APPEND fields " ${c}")
+        set(amount TRUE)
+      endif()
+    endforeach()
+    if(amount)
+      string(STRIP "${fields}" fields)
+      list(APPEND result "${fields}")
+    endif()
+  endforeach()
+  set(${out} "${result}" PARENT_SCOPE)
+endfunction()
 
 function(fenced text tag out)
   string(REGEX MATCH "```${tag}\n(.*)" rest "${text}")
@@ -70,6 +158,8 @@ while(NOT rest STREQUAL "")
     string(SUBSTRING "${rest}" ${cut} -1 rest)
   endif()
   set(script_file "${WORK}/run${n}.hd")
+  string(TIMESTAMP hoje_iso "%Y-%m-%d")
+  string(REPLACE "@DATA@" "${hoje_iso}" run "${run}")
   file(WRITE "${script_file}" "${run}\n")
   set(args "")
   if(run MATCHES "(^|\n)# args:([^\n]*)")
@@ -89,7 +179,7 @@ while(NOT rest STREQUAL "")
                   WORKING_DIRECTORY "${WORK}" RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
   string(APPEND actual "${out}exit ${rc}\n")
   string(APPEND errors "${err}")
-  string(REGEX MATCHALL "(^|\n)# (habtool|same): [^\n]*" afterwards "${run}")
+  string(REGEX MATCHALL "(^|\n)# (habtool|same|figures): [^\n]*" afterwards "${run}")
   foreach(line ${afterwards})
     if(line MATCHES "# habtool: *(.*)")
       separate_arguments(targs UNIX_COMMAND "${CMAKE_MATCH_1}")
@@ -97,6 +187,31 @@ while(NOT rest STREQUAL "")
                       OUTPUT_QUIET ERROR_VARIABLE terr)
       string(APPEND actual "HABTOOL exit ${trc}\n")
       string(APPEND errors "${terr}")
+    elseif(line MATCHES "# figures: *([^ ]+) +([^ ]+) +(.*)")
+      set(name "${CMAKE_MATCH_1}")
+      pdf_figures("${WORK}/pdf/${name}" printed)
+      habtool_figures("${CMAKE_MATCH_2}" "${CMAKE_MATCH_3}" console)
+      list(LENGTH printed n)
+      if(printed STREQUAL console)
+        string(APPEND actual "FIGURES ${name} ${n} lines as habtool\n")
+      else()
+        list(LENGTH console m)
+        string(APPEND actual "FIGURES ${name} DIFFERENT (${n} lines printed, ${m} from habtool)\n")
+        foreach(i RANGE 0 ${n})
+          set(a "")
+          set(b "")
+          if(i LESS n)
+            list(GET printed ${i} a)
+          endif()
+          if(i LESS m)
+            list(GET console ${i} b)
+          endif()
+          if(NOT a STREQUAL b)
+            string(APPEND actual "  line ${i}: printed [${a}] habtool [${b}]\n")
+            break()
+          endif()
+        endforeach()
+      endif()
     elseif(line MATCHES "# same: *([^ ]+) +([^ ]+)")
       execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${WORK}/${CMAKE_MATCH_1}" "${WORK}/${CMAKE_MATCH_2}"
                       RESULT_VARIABLE crc OUTPUT_QUIET ERROR_QUIET)
@@ -109,9 +224,13 @@ while(NOT rest STREQUAL "")
   endforeach()
 endwhile()
 string(REPLACE "${WORK}/pdf" "@PDF@" actual "${actual}")
+string(TIMESTAMP hoje_iso "%Y-%m-%d")
+string(REPLACE "${hoje_iso}" "@DATA@" actual "${actual}")
+string(REGEX REPLACE "@DATA@ [0-9][0-9]\\.[0-9][0-9]\\.[0-9][0-9]" "@DATA@ @HORA@" actual "${actual}")
 
 string(REGEX MATCHALL "REPORT [^\n]*\\|@PDF@/[^\n|]*\\.pdf" files "${actual}")
 string(REGEX MATCHALL "(^|\n)# writes: [^\n]*" writes "${script_text}")
+string(REPLACE "@DATA@" "${hoje_iso}" writes "${writes}")
 list(APPEND files ${writes})
 foreach(file ${files})
   string(REGEX REPLACE ".*\\|@PDF@/" "${WORK}/pdf/" pdf "${file}")
@@ -149,6 +268,16 @@ foreach(line ${texts})
   string(TIMESTAMP today "%d/%m/%Y")
   string(REPLACE "${today}" "@HOJE@" text "${text}")
   string(REGEX REPLACE "@HOJE@ [0-9][0-9]:[0-9][0-9](:[0-9][0-9])?" "@HOJE@ @HORA@" text "${text}")
+  # Today written out, as a letter dates itself ("5 de Abril de 2008").
+  set(meses Janeiro Fevereiro Março Abril Maio Junho Julho Agosto Setembro Outubro Novembro Dezembro)
+  string(TIMESTAMP dia "%d")
+  string(TIMESTAMP mes "%m")
+  string(TIMESTAMP ano "%Y")
+  string(REGEX REPLACE "^0" "" dia "${dia}")
+  string(REGEX REPLACE "^0" "" mes "${mes}")
+  math(EXPR mes "${mes} - 1")
+  list(GET meses ${mes} nome_mes)
+  string(REPLACE "${dia} de ${nome_mes} de ${ano}" "@HOJE_EXTENSO@" text "${text}")
   string(APPEND actual "${text}")
 endforeach()
 

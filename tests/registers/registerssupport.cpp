@@ -45,33 +45,6 @@ RegistersDir::RegistersDir()
     registerForm<frmPesqap>(FormKind::Dialog);
 }
 
-void RegistersDir::execSistema(const QString &sql)
-{
-    Connection cn;
-    cn.Open(session.conSistema);
-    cn.Execute(sql);
-    cn.Close();
-}
-
-void RegistersDir::execAtivo(const QString &sql)
-{
-    Connection cn;
-    cn.Open(session.conAtiva);
-    cn.Execute(sql);
-    cn.Close();
-}
-
-QString RegistersDir::consulta(const QString &connectionString, const QString &sql, const QString &column)
-{
-    Connection cn;
-    cn.Open(connectionString);
-    Recordset rs = cn.Execute(sql);
-    const QString out = rs.eof() ? QStringLiteral("<nenhum>") : rs[column].text();
-    rs.Close();
-    cn.Close();
-    return out;
-}
-
 void mostra(QWidget &form)
 {
     form.show();

@@ -33,9 +33,6 @@ public:
 class RegistersDir : public TempProgramDir {
 public:
     RegistersDir();
-    void execSistema(const QString &sql);
-    void execAtivo(const QString &sql);
-    QString consulta(const QString &connectionString, const QString &sql, const QString &column);
 };
 
 // Shows the form, activates it and waits, so that focus events reach it.

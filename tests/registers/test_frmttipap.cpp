@@ -2,8 +2,6 @@
 #include "support/fixtures.h"
 #include "support/scriptedprompter.h"
 
-#include "core/datastore.h"
-#include "core/session.h"
 #include "core/widgets/grade.h"
 #include "core/widgets/maskedit.h"
 #include "core/widgets/numberfield.h"
@@ -31,14 +29,7 @@ TEST(TiposDeApartamento, SavedWithTheCoefficientAndPaddedCode)
     rateio->setText(QStringLiteral("1,75"));
     form.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
 
-    Connection cn;
-    cn.Open(session.conAtiva);
-    Recordset rs = cn.Execute(QStringLiteral("SELECT codigo,descri,rateio FROM TpAp"));
-    ASSERT_FALSE(rs.eof());
-    EXPECT_EQ(rs[QStringLiteral("codigo")].text(), QStringLiteral("07"));
-    EXPECT_EQ(rs[QStringLiteral("descri")].text(), QStringLiteral("Cobertura"));
-    EXPECT_DOUBLE_EQ(rs[QStringLiteral("rateio")].toDouble(), 1.75);
-    cn.Close();
+    EXPECT_EQ(dir.ativo(QStringLiteral("SELECT codigo,descri,rateio FROM TpAp")), QStringLiteral("07|Cobertura|1,75"));
 
     // Loaded again, changed, and the grid follows.
     codigo->setText(QStringLiteral("07"));

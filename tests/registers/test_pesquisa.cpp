@@ -27,6 +27,12 @@ struct Firmas : RegistersDir {
     }
 };
 
+bool pesquisaFirmas()
+{
+    return abrePesquisa(nullptr, QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Pessoa Jurídica"),
+                        QStringLiteral("PJuridica"));
+}
+
 ModalScript::Act procura(const QString &coluna, const QString &texto, const QString &botao)
 {
     return [=](QDialog &d) {
@@ -56,10 +62,8 @@ TEST(Pesquisa, EmptyTableCancelAndClose)
     ModalScript modal;
     modal.on(QStringLiteral("frmPesquisa"), clickButton(QStringLiteral("cmdCancela")));
     modal.on(QStringLiteral("frmPesquisa"), [](QDialog &d) { d.reject(); });  // the window closed
-    EXPECT_FALSE(abrePesquisa(nullptr, QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Pessoa Jurídica"),
-                              QStringLiteral("PJuridica")));
-    EXPECT_FALSE(abrePesquisa(nullptr, QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Pessoa Jurídica"),
-                              QStringLiteral("PJuridica")));
+    EXPECT_FALSE(pesquisaFirmas());
+    EXPECT_FALSE(pesquisaFirmas());
     EXPECT_EQ(session.valorPesq, QStringLiteral("7"));
 }
 
@@ -88,11 +92,9 @@ TEST(Pesquisa, ByNameAndByCodeOnTheActiveFile)
         EXPECT_EQ(grade->linhaAtual(), 0);
         procura(QStringLiteral("Código"), QStringLiteral("250"), QStringLiteral("cmdOk"))(d);
     });
-    ASSERT_TRUE(abrePesquisa(nullptr, QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Pessoa Jurídica"),
-                             QStringLiteral("PJuridica")));
+    ASSERT_TRUE(pesquisaFirmas());
     EXPECT_EQ(session.valorPesq, QStringLiteral("12"));
-    ASSERT_TRUE(abrePesquisa(nullptr, QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Pessoa Jurídica"),
-                             QStringLiteral("PJuridica")));
+    ASSERT_TRUE(pesquisaFirmas());
     EXPECT_EQ(session.valorPesq, QStringLiteral("250"));
 }
 
@@ -113,8 +115,7 @@ TEST(Pesquisa, EnterSearchesThenAccepts)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         EXPECT_FALSE(d.isVisible());
     });
-    ASSERT_TRUE(abrePesquisa(nullptr, QStringLiteral("frmPesquisa"), QStringLiteral("Pesquisa de Pessoa Jurídica"),
-                             QStringLiteral("PJuridica")));
+    ASSERT_TRUE(pesquisaFirmas());
     EXPECT_EQ(session.valorPesq, QStringLiteral("250"));
 }
 

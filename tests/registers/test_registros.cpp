@@ -248,12 +248,10 @@ const QList<QPair<QString, std::function<QWidget *()>>> &fabricas()
         {QStringLiteral("frmAptos"),
          [] {
              // What the units' form reads as it opens: a type and the firms' (Nenhum) rows.
-             Connection cn;
-             cn.Open(session.conAtiva);
-             cn.Execute(QStringLiteral("INSERT INTO TpAp(codigo,descri,rateio) VALUES('01','Térreo','1')"));
-             cn.Execute(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',0)"));
-             cn.Execute(QStringLiteral("INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',1)"));
-             cn.Close();
+             for (const char *sql : {"INSERT INTO TpAp(codigo,descri,rateio) VALUES('01','Térreo','1')",
+                                     "INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',0)",
+                                     "INSERT INTO Pjuridica(codigo,nome,tipo) VALUES(0,'(Nenhum)',1)"})
+                 executaSql(session.conAtiva, QString::fromUtf8(sql));
              return new frmAptos;
          }},
     };
@@ -269,10 +267,7 @@ struct AreaDeTrabalho {
         dir.useInSession(1);
         session.usuario = QStringLiteral("Administrador");
         // The vehicles' register warns on load when there is no make.
-        Connection cn;
-        cn.Open(session.conAtiva);
-        cn.Execute(QStringLiteral("INSERT INTO Tpveiculos(codgrupo,grupo,descri) VALUES('01',True,\"Fiat\")"));
-        cn.Close();
+        dir.execAtivo(QStringLiteral("INSERT INTO Tpveiculos(codgrupo,grupo,descri) VALUES('01',True,\"Fiat\")"));
         area.resize(1300, 640);
         area.show();
         area.activateWindow();

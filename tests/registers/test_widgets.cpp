@@ -144,6 +144,24 @@ TEST(WidgetKit, GridSortsAndSearchesInOrder)
     m.remove(2);
     EXPECT_EQ(m.rowCount(), 3);
     EXPECT_EQ(m.linhaDe(0, QStringLiteral("50")), -1);
+
+    // Dates by the day they name and amounts by value, not as text.
+    GradeModel d;
+    d.setTitulos({QStringLiteral("Data"), QStringLiteral("Valor")});
+    d.setTipoColuna(0, GradeModel::Data);
+    d.setTipoColuna(1, GradeModel::Valor);
+    d.adiciona({QStringLiteral("15/12/2008"), QStringLiteral("1.200,00")});
+    d.adiciona({QStringLiteral("02/01/2009"), QStringLiteral("350,00")});
+    d.adiciona({QStringLiteral("01/03/2008"), QStringLiteral("-8,50")});
+    d.adiciona({QStringLiteral("20/12/2008"), QStringLiteral("12.480,00")});
+    d.sort(0);
+    EXPECT_EQ(d.texto(0, 0), QStringLiteral("01/03/2008"));
+    EXPECT_EQ(d.texto(3, 0), QStringLiteral("02/01/2009"));
+    d.sort(1);
+    EXPECT_EQ(d.texto(0, 1), QStringLiteral("-8,50"));
+    EXPECT_EQ(d.texto(1, 1), QStringLiteral("350,00"));
+    EXPECT_EQ(d.texto(3, 1), QStringLiteral("12.480,00"));
+    EXPECT_EQ(d.texto(d.procura(0, QStringLiteral("20/12")), 1), QStringLiteral("12.480,00"));
 }
 
 TEST(WidgetKit, ClearEnableAndFillTheFieldsOfAFrame)

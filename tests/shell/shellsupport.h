@@ -17,6 +17,4 @@
 class ShellDir : public TempProgramDir {
 public:
     ShellDir();
-    void execSistema(const QString &sql);
-    QString querySistema(const QString &sql, const QString &column);
 };

@@ -25,19 +25,6 @@ bool runMkdemo(const QString &dir, const QString &units)
     EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
     return p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
 }
-
-QString column(Connection &cn, const QString &sql)
-{
-    QString all;
-    Recordset rs = cn.Execute(sql);
-    while (!rs.eof()) {
-        for (const QString &c : rs.columnNames())
-            all += rs[c].text() + u'|';
-        all += u'\n';
-        rs.moveNext();
-    }
-    return all;
-}
 }
 
 TEST(Mkdemo, MakesACompleteValidDeterministicInstallation)
@@ -65,10 +52,10 @@ TEST(Mkdemo, MakesACompleteValidDeterministicInstallation)
         EXPECT_EQ(session.nomeEmp, QStringLiteral("Condomínio Residencial Jardim das Palmeiras"));
     }
 
+    const QString condominio = connectionString(dir, QStringLiteral("Con001.mdb"), QString());
     Connection cn;
-    cn.Open(connectionString(dir, QStringLiteral("Con001.mdb"), QString()));
-    Recordset count = cn.Execute(QStringLiteral("SELECT Count(codigo) As I FROM Aptos"));
-    EXPECT_EQ(count[QStringLiteral("I")].toInt(), 30);
+    cn.Open(condominio);
+    EXPECT_EQ(leLinha(condominio, QStringLiteral("SELECT Count(codigo) As I FROM Aptos")), QStringLiteral("30"));
 
     // Every CPF and CNPJ passes the system's own check.
     {
@@ -95,31 +82,29 @@ TEST(Mkdemo, MakesACompleteValidDeterministicInstallation)
     // one record never touches another. Pjuridica's two "(Nenhum)" rows of
     // code 0 are the seed rows the system writes itself.
     {
-        Connection sys;
-        sys.Open(session.conSistema);
+        const QString &sys = session.conSistema;
         const struct {
-            Connection *cn;
+            const QString &cn;
             const char *table, *key;
-        } chaves[] = {{&sys, "Clientes", "codigo"},   {&sys, "Usuarios", "codigo"},    {&sys, "Usuarios", "nome"},
-                      {&cn, "Aptos", "codigo"},        {&cn, "Grupos", "codgrupo"},     {&cn, "TpAp", "codigo"},
-                      {&cn, "Pjuridica", "codigo"},    {&cn, "Mobra", "codigo"},        {&cn, "Moradores", "nome,codap"},
-                      {&cn, "Veiculos", "chapa"},      {&cn, "Tpveiculos", "codgrupo"}, {&cn, "Contas", "codigo"},
-                      {&cn, "Eventos", "codigo"},      {&cn, "Plano", "codigo"},        {&cn, "Parametros", "codigo"},
-                      {&cn, "Recibos", "codigo"}};
+        } chaves[] = {{sys, "Clientes", "codigo"},   {sys, "Usuarios", "codigo"},    {sys, "Usuarios", "nome"},
+                      {condominio, "Aptos", "codigo"},        {condominio, "Grupos", "codgrupo"},     {condominio, "TpAp", "codigo"},
+                      {condominio, "Pjuridica", "codigo"},    {condominio, "Mobra", "codigo"},        {condominio, "Moradores", "nome,codap"},
+                      {condominio, "Veiculos", "chapa"},      {condominio, "Tpveiculos", "codgrupo"}, {condominio, "Contas", "codigo"},
+                      {condominio, "Eventos", "codigo"},      {condominio, "Plano", "codigo"},        {condominio, "Parametros", "codigo"},
+                      {condominio, "Recibos", "codigo"}};
         for (const auto &c : chaves) {
             const QString key = QString::fromLatin1(c.key), table = QString::fromLatin1(c.table);
-            EXPECT_EQ(column(*c.cn, QStringLiteral("SELECT ") + key + QStringLiteral(",Count(*) As N FROM ") + table
+            EXPECT_EQ(leLinhas(c.cn, QStringLiteral("SELECT ") + key + QStringLiteral(",Count(*) As N FROM ") + table
                                         + (table == QLatin1String("Pjuridica") ? QStringLiteral(" WHERE codigo > 0") : QString())
                                         + QStringLiteral(" GROUP BY ") + key + QStringLiteral(" HAVING Count(*) > 1")),
                       QString())
                 << c.table << "." << c.key;
         }
-        sys.Close();
     }
 
     // The login's seed rows, a receipt per active unit, everything dated in 2008.
-    EXPECT_EQ(column(cn, QStringLiteral("SELECT nome,tipo FROM Pjuridica WHERE codigo = 0 ORDER BY tipo")),
-              QStringLiteral("(Nenhum)|0|\n(Nenhum)|1|\n"));
+    EXPECT_EQ(leLinhas(condominio, QStringLiteral("SELECT nome,tipo FROM Pjuridica WHERE codigo = 0 ORDER BY tipo")),
+              QStringLiteral("(Nenhum)|0\n(Nenhum)|1\n"));
     Recordset ativos = cn.Execute(QStringLiteral("SELECT Count(codigo) As I FROM Aptos WHERE situ = 'A'"));
     Recordset recibos = cn.Execute(QStringLiteral("SELECT Count(codigo) As I FROM Recibos"));
     EXPECT_EQ(recibos[QStringLiteral("I")].toInt(), ativos[QStringLiteral("I")].toInt());
@@ -129,17 +114,15 @@ TEST(Mkdemo, MakesACompleteValidDeterministicInstallation)
     Recordset mov = cn.Execute(QStringLiteral(
         "SELECT Count(codauto) As I FROM Mov08 WHERE datalan >= #01/01/2008# AND datalan <= #12/31/2008#"));
     EXPECT_GE(mov[QStringLiteral("I")].toInt(), 12 * 10);
-    EXPECT_EQ(column(cn, QStringLiteral("SELECT rbanco,ritauag,ritaucart,fnreci FROM Parametros WHERE codigo = 1")),
+    EXPECT_EQ(leLinhas(condominio, QStringLiteral("SELECT rbanco,ritauag,ritaucart,fnreci FROM Parametros WHERE codigo = 1")),
               QStringLiteral("341|0742|175|") + ZeroEsq(QString::number(ativos[QStringLiteral("I")].toInt()), 6)
-                  + QStringLiteral("|\n"));
-    const QString owners = column(cn, QStringLiteral("SELECT codigo,nome,cpfpro,honor FROM Aptos ORDER BY codigo"));
+                  + QStringLiteral("\n"));
+    const QString owners = leLinhas(condominio, QStringLiteral("SELECT codigo,nome,cpfpro,honor FROM Aptos ORDER BY codigo"));
     cn.Close();
 
     // The same arguments give the same data.
     ASSERT_TRUE(runMkdemo(dir, QStringLiteral("30")));
-    cn.Open(connectionString(dir, QStringLiteral("Con001.mdb"), QString()));
-    EXPECT_EQ(column(cn, QStringLiteral("SELECT codigo,nome,cpfpro,honor FROM Aptos ORDER BY codigo")), owners);
-    cn.Close();
+    EXPECT_EQ(leLinhas(condominio, QStringLiteral("SELECT codigo,nome,cpfpro,honor FROM Aptos ORDER BY codigo")), owners);
 
     // The tour photographs the program on it at the size of an office screen.
     QProcess tour;

@@ -120,7 +120,7 @@ TEST(MainWindow, UserWithoutCondominiumIsTakenToActivation)
     EXPECT_EQ(session.nomeEmp, QStringLiteral("Residencial Teste"));
     EXPECT_TRUE(mdi.windowTitle().endsWith(QStringLiteral("Usuário: Joao  -  Empresa Ativa: 1 - Residencial Teste")));
     EXPECT_EQ(session.conAtiva, connectionString(dir.path(), QStringLiteral("Con001.mdb"), QString()));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT empat FROM Usuarios WHERE nome = 'Joao'"), QStringLiteral("empat")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT empat FROM Usuarios WHERE nome = 'Joao'")),
               QStringLiteral("1"));
 
     // Activation again, from the menu: a code of 0 changes nothing.
@@ -452,9 +452,9 @@ TEST(PasswordChange, TheTryCounterAndTheSave)
         EXPECT_EQ(form.result(), QDialog::Accepted);
         EXPECT_FALSE(session.cancelaGrava);
     }
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT senha FROM Usuarios WHERE codigo = 1"), QStringLiteral("senha")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT senha FROM Usuarios WHERE codigo = 1")),
               EmbaralhaSenha(QStringLiteral("nova1")));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT dsenha FROM Usuarios WHERE codigo = 1"), QStringLiteral("dsenha")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT dsenha FROM Usuarios WHERE codigo = 1")),
               formatDate(QDate::currentDate(), QStringLiteral("dd/mm/yyyy")));
     {
         ScriptedPrompter p;
@@ -490,8 +490,7 @@ TEST(PrinterChoice, StoredForTheUser)
     form.findChild<QRadioButton *>(QStringLiteral("optIl"))->setChecked(true);
     form.findChild<QPushButton *>(QStringLiteral("cmdGravar"))->click();
     EXPECT_EQ(session.impressora, QStringLiteral("L"));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT impressora FROM Usuarios WHERE nome = 'Joao'"),
-                               QStringLiteral("impressora")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT impressora FROM Usuarios WHERE nome = 'Joao'")),
               QStringLiteral("L"));
 }
 

@@ -170,14 +170,9 @@ TEST(Activation, WithAndWithoutTheFile)
     EXPECT_EQ(session.nomeEmp, QStringLiteral("Residencial Teste"));
     EXPECT_EQ(session.arqAtivo, QStringLiteral("Con001.mdb"));
     EXPECT_EQ(session.conAtiva, connectionString(dir.path(), QStringLiteral("Con001.mdb"), QString()));
-    EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT empat FROM Usuarios WHERE codigo = 2"), QStringLiteral("empat")),
+    EXPECT_EQ(dir.sistema(QStringLiteral("SELECT empat FROM Usuarios WHERE codigo = 2")),
               QStringLiteral("1"));
-    {
-        Connection con;
-        con.Open(session.conAtiva);
-        Recordset rs = con.Execute(QStringLiteral("SELECT Count(codigo) As I FROM Pjuridica"));
-        EXPECT_EQ(rs[QStringLiteral("I")].toInt(), 0);
-    }
+    EXPECT_EQ(dir.ativo(QStringLiteral("SELECT Count(codigo) As I FROM Pjuridica")), QStringLiteral("0"));
     {
         // The file is there now: no question.
         ScriptedPrompter p;
@@ -190,7 +185,7 @@ TEST(Activation, WithAndWithoutTheFile)
         p.answer(vbNo, QStringLiteral("criar ?"));
         EXPECT_THROW(AtivaCondominio(cn, 9, QStringLiteral("")), ProgramEnded);
         EXPECT_FALSE(QFile::exists(dir.file(QStringLiteral("Con009.mdb"))));
-        EXPECT_EQ(dir.querySistema(QStringLiteral("SELECT empat FROM Usuarios WHERE codigo = 2"), QStringLiteral("empat")),
+        EXPECT_EQ(dir.sistema(QStringLiteral("SELECT empat FROM Usuarios WHERE codigo = 2")),
                   QStringLiteral("9"));
     }
     cn.Close();
@@ -208,18 +203,8 @@ TEST(Activation, LoginPathSeedsANewFileOrChoosesAnother)
         EXPECT_FALSE(escolheu);
         EXPECT_EQ(p.calls[0].title, QStringLiteral("Criar Arquivo..."));
     }
-    Connection con;
-    con.Open(session.conAtiva);
-    Recordset rs = con.Execute(QStringLiteral("SELECT codigo,nome,tipo FROM Pjuridica ORDER BY tipo"));
-    ASSERT_FALSE(rs.eof());
-    EXPECT_EQ(rs[QStringLiteral("nome")].text(), QStringLiteral("(Nenhum)"));
-    EXPECT_EQ(rs[QStringLiteral("tipo")].text(), QStringLiteral("0"));
-    rs.moveNext();
-    ASSERT_FALSE(rs.eof());
-    EXPECT_EQ(rs[QStringLiteral("tipo")].text(), QStringLiteral("1"));
-    rs.moveNext();
-    EXPECT_TRUE(rs.eof());
-    con.Close();
+    EXPECT_EQ(leLinhas(session.conAtiva, QStringLiteral("SELECT codigo,nome,tipo FROM Pjuridica ORDER BY tipo")),
+              QStringLiteral("0|(Nenhum)|0\n0|(Nenhum)|1\n"));
 
     session.empat = 4;
     {

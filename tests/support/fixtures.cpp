@@ -1,5 +1,7 @@
 #include "support/fixtures.h"
 
+#include "core/datastore.h"
+#include "core/scramble.h"
 #include "core/session.h"
 
 #include <QFile>
@@ -42,4 +44,55 @@ void TempProgramDir::useInSession(int code)
         session.arqAtivo = conFileName(code);
         session.conAtiva = connectionString(path_, session.arqAtivo, QString());
     }
+}
+
+void TempProgramDir::execSistema(const QString &sql) const { executaSql(session.conSistema, sql); }
+void TempProgramDir::execAtivo(const QString &sql) const { executaSql(session.conAtiva, sql); }
+QString TempProgramDir::sistema(const QString &sql) const { return leLinha(session.conSistema, sql); }
+QString TempProgramDir::ativo(const QString &sql) const { return leLinha(session.conAtiva, sql); }
+void executaSql(const QString &conexao, const QString &sql)
+{
+    Connection cn;
+    cn.Open(conexao);
+    cn.Execute(sql);
+    cn.Close();
+}
+
+static QString textoDaLinha(Recordset &rs)
+{
+    QStringList campos;
+    for (const QString &c : rs.columnNames())
+        campos << rs[c].text();
+    return campos.join(u'|');
+}
+
+QString leLinha(const QString &conexao, const QString &sql)
+{
+    Connection cn;
+    cn.Open(conexao);
+    Recordset rs = cn.Execute(sql);
+    const QString out = rs.eof() ? QStringLiteral("<nenhum>") : textoDaLinha(rs);
+    rs.Close();
+    cn.Close();
+    return out;
+}
+
+QString leLinhas(const QString &conexao, const QString &sql)
+{
+    Connection cn;
+    cn.Open(conexao);
+    QString out;
+    for (Recordset rs = cn.Execute(sql); !rs.eof(); rs.moveNext())
+        out += textoDaLinha(rs) + u'\n';
+    cn.Close();
+    return out;
+}
+
+void insereUsuarios(const TempProgramDir &dir)
+{
+    const QString insere = QStringLiteral("INSERT INTO Usuarios(codigo,nome,senha,dsenha,impressora,empat,bdcon,bdadi,bdexc,"
+                                          "bdalt,cfcon,cfadi,cfexc,cfalt,cfbai) VALUES(%1,\"%2\",\"%3\",'02/01/2008',%4)");
+    const QString todos = QStringLiteral(",True").repeated(9).mid(1), nenhum = QStringLiteral(",False").repeated(9).mid(1);
+    dir.execSistema(insere.arg(1).arg(QStringLiteral("Maria"), EmbaralhaSenha(QStringLiteral("segredo")), QStringLiteral("'L',1,") + todos));
+    dir.execSistema(insere.arg(2).arg(QStringLiteral("Joao"), EmbaralhaSenha(QStringLiteral("abc")), QStringLiteral("'M',0,") + nenhum));
 }

@@ -10,6 +10,7 @@
 #include "reporting/imprime.h"
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QProgressBar>
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
@@ -436,6 +437,8 @@ QString Motorista::valorDe(QWidget *w)
         return p->toPlainText();
     if (auto *s = qobject_cast<QAbstractSpinBox *>(w))
         return s->text();
+    if (auto *p = qobject_cast<QProgressBar *>(w))
+        return p->text();
     return w->windowTitle();
 }
 
@@ -544,6 +547,9 @@ void Motorista::roda(const Comando &c)
         else if (qobject_cast<QRadioButton *>(b))
             onde = b->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &opcao, b).center();
         clica(b, onde);
+    } else if (n == QLatin1String("dblclick")) {
+        QWidget *w = controle(a[0], true);
+        QTest::mouseDClick(w, Qt::LeftButton, {}, w->rect().center());
     } else if (n == QLatin1String("tab")) {
         auto *t = qobject_cast<QTabWidget *>(controle(a[0], true));
         if (!t)

@@ -14,7 +14,7 @@ const QHash<QString, int> &aridades()
         {QStringLiteral("choose"), 2}, {QStringLiteral("row"), 2},   {QStringLiteral("cell"), 4},
         {QStringLiteral("answer"), 1}, {QStringLiteral("file"), 1},  {QStringLiteral("show"), 1},
         {QStringLiteral("grid"), 1},  {QStringLiteral("close"), 0},  {QStringLiteral("wait"), 0},
-        {QStringLiteral("open"), 1},
+        {QStringLiteral("open"), 1},  {QStringLiteral("dblclick"), 1},
     };
     return a;
 }
