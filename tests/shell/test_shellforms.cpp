@@ -100,8 +100,11 @@ TEST(MainWindow, AdministratorLoginThenAUserWhoseMissingFileIsCreated)
     mdi.acao(QStringLiteral("tob12"))->trigger();
     EXPECT_EQ(mdi.windowTitle(), QStringLiteral("Habitarium - Versão 1.0.0 - {Administradora Teste}  -  Usuário: Maria  -  "
                                                 "Empresa Ativa: 1 - Residencial Teste"));
-    EXPECT_TRUE(QFile::exists(dir.file(QStringLiteral("Con001.mdb"))));
+    EXPECT_EQ(p.last().title, QStringLiteral("Criar Arquivo..."));
     EXPECT_EQ(session.conAtiva, connectionString(dir.path(), QStringLiteral("Con001.mdb"), QString()));
+    // The new file is seeded with the login's "(Nenhum)" rows.
+    EXPECT_EQ(leLinhas(session.conAtiva, QStringLiteral("SELECT codigo,nome,tipo FROM Pjuridica ORDER BY tipo")),
+              QStringLiteral("0|(Nenhum)|0\n0|(Nenhum)|1\n"));
     EXPECT_FALSE(session.confirmaSaida);
     expectEntries(mdi, false);
 }

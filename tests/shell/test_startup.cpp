@@ -161,21 +161,10 @@ TEST(Activation, WithAndWithoutTheFile)
     cn.Close();
 }
 
-TEST(Activation, LoginPathSeedsANewFileOrChoosesAnother)
+TEST(Activation, LoginPathChoosesAnotherOrEnds)
 {
+    // Yes makes the seeded file: test_shellforms, the change of user.
     ShellDir dir;
-    session.empat = 3;
-    {
-        ScriptedPrompter p;
-        p.answer(vbYes, QStringLiteral("Não Existe o Banco de Dados do Condomínio 3, Cria um Novo Vazio ? "));
-        bool escolheu = false;
-        PreparaArquivoAtivo([&] { escolheu = true; });
-        EXPECT_FALSE(escolheu);
-        EXPECT_EQ(p.calls[0].title, QStringLiteral("Criar Arquivo..."));
-    }
-    EXPECT_EQ(leLinhas(session.conAtiva, QStringLiteral("SELECT codigo,nome,tipo FROM Pjuridica ORDER BY tipo")),
-              QStringLiteral("0|(Nenhum)|0\n0|(Nenhum)|1\n"));
-
     session.empat = 4;
     {
         // No, then yes: another condominium is chosen; leaving it unchosen
