@@ -46,18 +46,88 @@ QHash<QString, QString> valoresDeExemplo(const Registro &r, const QString &codig
     return v;
 }
 
-// Each register with a code its statements are tried with. A resident is
-// found by the number the file gives it: the first is 1.
 struct Esperado {
     const char *form;
     const char *codigo;
+    const char *insere;  // with valoresDeExemplo
+    const char *altera;
 };
 
 const Esperado kEsperados[] = {
-    {"frmBlocos", "07"},     {"frmTTipAp", "07"},     {"frmCpj", "77"},        {"frmUsucli", "77"},
-    {"frmUsuarios", "77"},   {"frmMoradores", "1"},   {"frmVeiculos", "ABC-1234"}, {"frmTpveiculos", "0701"},
-    {"frmTEventos", "077"},  {"frmMobra", "77"},      {"frmTPlanoCtas", "09.901"}, {"frmTContas", "77"},
-    {"frmAptos", "000077"},
+    {"frmBlocos", "07", "INSERT INTO Grupos(codgrupo,Grupo,Descri) VALUES('07',True,'X')",
+     "Update Grupos Set Descri = 'X' Where codgrupo = '07'"},
+    {"frmTTipAp", "07", "INSERT INTO TpAp(codigo,descri,rateio) VALUES('07','X','1.5')",
+     "Update TpAp Set Descri = 'X', rateio = '1.5' Where codigo = '07'"},
+    {"frmCpj", "77",
+     "INSERT INTO PJuridica(codigo,Nome,endereco,bairro,cidade,uf,cep,tipo,numero,complemento,cnpj,cpf,inscest,"
+     "contato0,setor0,nascto0,contato1,setor1,nascto1,contato2,setor2,nascto2,ddd,fone0,fone1,fone2,email,homepage,"
+     "fax,obs) VALUES( \"77\",\"X\",\"X\",\"X\",\"X\",\"X\",\"_____\",'0',\"X\",\"X\",\"_____\",\"_____\",\"X\","
+     "\"X\",\"X\",null,\"X\",\"X\",null,\"X\",\"X\",null,\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\")",
+     "Update PJuridica Set Nome = \"X\",endereco = \"X\",bairro = \"X\",cidade = \"X\",uf = \"X\",cep = \"_____\","
+     "tipo = '0',numero = \"X\",complemento = \"X\",cnpj = \"_____\",cpf = \"_____\",inscest = \"X\","
+     "contato0 = \"X\",setor0 = \"X\",Nascto0 = null,contato1 = \"X\",setor1 = \"X\",Nascto1 = null,"
+     "contato2 = \"X\",setor2 = \"X\",Nascto2 = null,ddd = \"X\",fone0 = \"X\",fone1 = \"X\",fone2 = \"X\","
+     "email = \"X\",homepage = \"X\",fax = \"X\",obs = \"X\" Where codigo = 77"},
+    {"frmUsucli", "77",
+     "INSERT INTO clientes(codigo,nome,endereco,numero,complemento,bairro,cidade,uf,cep,cgc,cpf,ddd,fone1,fone2,fax,"
+     "email,homepage,obs) VALUES( '77',\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"00000-000\",\"_____\",\"_____\","
+     "\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\")",
+     "Update clientes Set nome = \"X\",endereco = \"X\",numero = \"X\",complemento = \"X\",bairro = \"X\","
+     "cidade = \"X\",uf = \"X\",cep = \"00000-000\",cgc = \"_____\",cpf = \"_____\",ddd = \"X\",fone1 = \"X\","
+     "fone2 = \"X\",fax = \"X\",email = \"X\",homepage = \"X\",obs = \"X\" Where codigo = 77"},
+    {"frmUsuarios", "77",
+     "INSERT INTO usuarios(codigo,nome,senha,impressora,dsenha,empat,bdcon,bdadi,bdexc,bdalt,cfcon,cfadi,cfexc,cfalt,"
+     "cfbai) VALUES( '77',\"X\",\"abc\",'M','23/11/2026','1',True,True,True,True,True,True,True,True,True)",
+     "Update usuarios Set nome = \"X\",impressora = 'M',empat = '1',Bdcon = True,Bdadi = True,Bdexc = True,"
+     "Bdalt = True,Cfcon = True,Cfadi = True,Cfexc = True,Cfalt = True,Cfbai = True Where codigo = 77"},
+    // A resident is found by the number the file gives it: the first is 1.
+    {"frmMoradores", "1",
+     "INSERT INTO Moradores(nome,nascto,vinculo,codap) VALUES(\"X\",Null,'1','000101')",
+     "Update Moradores Set nascto = Null,nome = \"X\",codap = '000101',"
+     "vinculo = '1' Where codap = '000101' and nome = \"X\""},
+    {"frmVeiculos", "ABC-1234",
+     "INSERT INTO Veiculos(chapa,apto,proprietario,ano,cor,marca,modelo,obs) VALUES('ABC-1234','000101',"
+     "\"X\",'_____',\"X\",\"X\",\"X\",\"X\")",
+     "Update Veiculos Set apto = '000101',proprietario = \"X\",ano = '_____',cor = \"X\",marca = \"X\","
+     "modelo = \"X\",obs = \"X\" Where chapa = 'ABC-1234'"},
+    {"frmTpveiculos", "0701",
+     "INSERT INTO Tpveiculos(codgrupo,Grupo,Descri) VALUES('0701',True,\"X\")",
+     "Update Tpveiculos Set Descri = \"X\" Where codgrupo = '0701'"},
+    {"frmTEventos", "077",
+     "INSERT INTO Eventos(codigo,nome,tipo,ir,refer,valor) VALUES('077',\"X\",'H',True,True,'1.5')",
+     "Update Eventos Set nome = \"X\",tipo = 'H',ir = True,refer = True,valor = '1.5' Where codigo = '077'"},
+    {"frmMobra", "77",
+     "INSERT INTO Mobra(codigo,nome,rg,cpf,ctps,serctps,ufctps,endereco,numero,complemento,bairro,cidade,"
+     "uf,cep,tipo,nascto,codemap,qualif1,qualif2,qualif3,observ) VALUES(77,\"X\",'_____','_____',\"X\","
+     "\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'_____','0',null,0,\"X\",\"X\",\"X\",\"X\")",
+     "Update Mobra Set Nome = \"X\",rg = '_____',cpf = '_____',ctps = \"X\",serctps = \"X\","
+     "ufctps = \"X\",endereco = \"X\",numero = \"X\",complemento = \"X\",bairro = \"X\",cidade = \"X\","
+     "uf = \"X\",cep = '_____',tipo = '0',Nascto = null,codemap = 0,qualif1 = \"X\",qualif2 = \"X\","
+     "qualif3 = \"X\",observ = \"X\" Where codigo = 77"},
+    {"frmTPlanoCtas", "09.901",
+     "INSERT INTO Plano(codigo,nome,tipo,classe,sintetico) VALUES('09.901',\"X\",\"0\",\"O\",True)",
+     "Update Plano Set nome = \"X\",tipo = '0',classe = 'O',sintetico = True Where codigo = '09.901'"},
+    {"frmTContas", "77",
+     "INSERT INTO Contas(codigo,nbanco,nagencia,codbco,codagc,nrconta) VALUES(77,\"X\",\"X\",'X','X','X')",
+     "Update Contas Set nbanco = \"X\",NAgencia = \"X\",codbco = 'X',codagc = 'X',nrconta = 'X' Where codigo = 77"},
+    {"frmAptos", "000077",
+     "INSERT INTO Aptos(codigo,nome,codinterno,tapto,tuso,situ,nrcontpm,seguropro,quitado,cabina,aposentado,"
+     "crateio,codimob,codfin,conjugepro,enderecopro,numeropro,complementopro,bairropro,cidadepro,ufpro,ceppro,"
+     "cpfpro,rgpro,cnpjpro,emailpro,inquilino,enderecoinq,numeroinq,complementoinq,bairroinq,cidadeinq,ufinq,"
+     "cepinq,cpfinq,rginq,cnpjinq,emailinq,dddap,foneap,dddpro,fonepro,dddinq,foneinq,dddcoml,fonecoml,tipcob,"
+     "nemis,demis,nrecibo,tipbolbco,observ) VALUES('000077',\"X\",\"X\",'01','1','A','_____',True,True,True,"
+     "True,'1.5','1','1',\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'X','_____','_____','_____','_____',\"X\","
+     "\"X\",\"X\",\"X\",\"X\",\"X\",\"X\",'X','_____','_____','_____','_____',\"X\",'X','X','X','X','X','X',"
+     "'X','X','X','0','01/01/2003','000000','X',\"X\")",
+     "Update Aptos Set nome = \"X\",codinterno = \"X\",tapto = '01',tuso = '1',situ = 'A',nrcontpm = '_____',"
+     "seguropro = True,quitado = True,cabina = True,aposentado = True,crateio = '1.5',codimob = '1',"
+     "codfin = '1',conjugepro = \"X\",enderecopro = \"X\",numeropro = \"X\",complementopro = \"X\","
+     "bairropro = \"X\",cidadepro = \"X\",ufpro = 'X',ceppro = '_____',cpfpro = '_____',rgpro = '_____',"
+     "cnpjpro = '_____',emailpro = \"X\",inquilino = \"X\",enderecoinq = \"X\",numeroinq = \"X\","
+     "complementoinq = \"X\",bairroinq = \"X\",cidadeinq = \"X\",ufinq = 'X',cepinq = '_____',cpfinq = '_____',"
+     "rginq = '_____',cnpjinq = '_____',emailinq = \"X\",dddap = 'X',foneap = 'X',dddpro = 'X',fonepro = 'X',"
+     "dddinq = 'X',foneinq = 'X',dddcoml = 'X',fonecoml = 'X',tipcob = 'X',tipbolbco = 'X',"
+     "observ = \"X\" Where codigo = '000077'"},
 };
 }
 
@@ -85,6 +155,8 @@ TEST(Registros, EveryDescriptionWritesItsStatementsAndTheyRun)
             EXPECT_TRUE(conhecidos.contains(o.controle)) << o.controle.toStdString();
 
         const QHash<QString, QString> v = valoresDeExemplo(*r, QString::fromLatin1(e.codigo));
+        EXPECT_EQ(montaSql(r->insere, v), QString::fromUtf8(e.insere));
+        EXPECT_EQ(montaSql(r->altera, v), QString::fromUtf8(e.altera));
 
         // The statements run, in the order a clerk's work sends them.
         TempProgramDir dir;
