@@ -38,13 +38,16 @@ void somaLado(Connection &con, const QString &tabela, const QString &conta, cons
     Recordset rs = con.Execute(QStringLiteral("SELECT ") + conta + QStringLiteral(",vlrlan FROM ") + tabela + periodo +
                                QStringLiteral(" ORDER BY ") + conta);
     float total = 0;
+    StatementText upd;
     while (!rs.eof()) {
         const QString codigo = rs[conta].text();
         total = accumulateSingle(total, valorMensal(rs[QStringLiteral("vlrlan")]));
         rs.moveNext();
         if (rs.eof() || rs[conta].text() != codigo) {
-            con.Execute(QStringLiteral("UPDATE plano SET ") + coluna + QStringLiteral(" = '") + textoSingle(total) +
-                        QStringLiteral("' WHERE codigo = '") + codigo + QStringLiteral("'"));
+            upd.begin(u"UPDATE plano SET ") << coluna << u" = ";
+            upd.q(textoSingle(total)) << u" WHERE codigo = ";
+            upd.q(codigo);
+            con.Execute(upd.text());
             total = 0;
         }
     }
@@ -156,6 +159,7 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
     p.text = kPasso4;
     mostra();
     Transaction passo4(con);
+    StatementText upd;
     for (int m = mesBase; m <= 12; ++m) {
         const QString sfAnterior = colunaMes(QStringLiteral("sf"), m - 1);
         const QString vdMes = colunaMes(QStringLiteral("vd"), m);
@@ -169,9 +173,10 @@ void AtualizaSaldos(Connection &con, const QString &anoMesFim, const ProgressFn 
             const Money saldo =
                 roundedMoney(valorMensal(rs[sfAnterior]), 2) + roundedMoney(valorMensal(rs[vdMes]), 2) - roundedMoney(valorMensal(rs[vcMes]), 2);
             const float saldoMes = float(saldo.toDouble());
-            con.Execute(QStringLiteral("UPDATE Plano SET ") + sfMes + QStringLiteral(" = '") + textoSingle(saldoMes) +
-                        QStringLiteral("'") + QStringLiteral(" WHERE codigo = '") + rs[QStringLiteral("codigo")].text() +
-                        QStringLiteral("'"));
+            upd.begin(u"UPDATE Plano SET ") << sfMes << u" = ";
+            upd.q(textoSingle(saldoMes)) << u" WHERE codigo = ";
+            upd.q(rs[QStringLiteral("codigo")].text());
+            con.Execute(upd.text());
             rs.moveNext();
         }
     }

@@ -6,7 +6,6 @@
 #include "core/session.h"
 #include "core/transaction.h"
 
-#include <QStringBuilder>
 
 namespace {
 
@@ -48,14 +47,18 @@ bool EncheRBalancete(Connection &con, const QString &mesIni, const QString &mesF
 
     Progress p;
     p.max = int(rs.recordCount());
+    // The month's columns, named once: a name kept from row to row is found at once.
+    const QString vdMes = colunaMes(QStringLiteral("vd"), mes), vcMes = colunaMes(QStringLiteral("vc"), mes),
+                  poMes = colunaMes(QStringLiteral("po") + yy, mes);
+    StatementText ins;
     while (!rs.eof()) {
         const Money saldoIni = roundedMoney(valorMensal(rs[sini]), 2);
         const Money saldoFin = roundedMoney(valorMensal(rs[sfin]), 2);
         Money debitos, creditos, previsto;
         if (!periodo) {
-            debitos = roundedMoney(valorMensal(rs[colunaMes(QStringLiteral("vd"), mes)]), 2);
-            creditos = roundedMoney(valorMensal(rs[colunaMes(QStringLiteral("vc"), mes)]), 2);
-            previsto = roundedMoney(valorMensal(rs[colunaMes(QStringLiteral("po") + yy, mes)]), 2);
+            debitos = roundedMoney(valorMensal(rs[vdMes]), 2);
+            creditos = roundedMoney(valorMensal(rs[vcMes]), 2);
+            previsto = roundedMoney(valorMensal(rs[poMes]), 2);
         } else {
             for (int m = mes; m <= ultimo; ++m) {
                 debitos += valorMensal(rs[colunaMes(QStringLiteral("vd"), m)]);
@@ -64,14 +67,18 @@ bool EncheRBalancete(Connection &con, const QString &mesIni, const QString &mesF
             }
         }
         const Money resultado = debitos - creditos;
-        con.Execute(QStringLiteral("INSERT INTO RBalancete(codigo,nome,tipo,classe,sintetico,") %
-                    QStringLiteral("sini,vdeb,vcre,sfin,spct,spo) ") % QStringLiteral("VALUES (") %
-                    q(rs[QStringLiteral("codigo")].text()) % QStringLiteral(",") % q(rs[QStringLiteral("nome")].text()) %
-                    QStringLiteral(",") % q(rs[QStringLiteral("tipo")].text()) % QStringLiteral(",") %
-                    q(rs[QStringLiteral("classe")].text()) % QStringLiteral(",") % booleano(rs[QStringLiteral("sintetico")]) %
-                    QStringLiteral(",") % q(saldoIni) % QStringLiteral(",") % q(debitos) % QStringLiteral(",") %
-                    q(creditos) % QStringLiteral(",") % q(saldoFin) % QStringLiteral(",") % q(resultado) %
-                    QStringLiteral(",") % q(previsto) % QStringLiteral(")"));
+        ins.begin(u"INSERT INTO RBalancete(codigo,nome,tipo,classe,sintetico,sini,vdeb,vcre,sfin,spct,spo) VALUES (")
+            .q(rs[QStringLiteral("codigo")].text()) << u",";
+        ins.q(rs[QStringLiteral("nome")].text()) << u",";
+        ins.q(rs[QStringLiteral("tipo")].text()) << u",";
+        ins.q(rs[QStringLiteral("classe")].text()) << u"," << booleano(rs[QStringLiteral("sintetico")]) << u",";
+        ins.q(moneyText(saldoIni)) << u",";
+        ins.q(moneyText(debitos)) << u",";
+        ins.q(moneyText(creditos)) << u",";
+        ins.q(moneyText(saldoFin)) << u",";
+        ins.q(moneyText(resultado)) << u",";
+        ins.q(moneyText(previsto)) << u")";
+        con.Execute(ins.text());
         p.value += 1;
         if (progresso)
             progresso(p);

@@ -7,12 +7,9 @@
 #include "core/transaction.h"
 
 #include <QDate>
-#include <QStringBuilder>
 #include <cstdint>
 
 namespace {
-
-QString q(const QString &text) { return QStringLiteral("'") + text + QStringLiteral("'"); }
 
 // The line number of the original: a 16-bit integer.
 int16_t proximo(int16_t contador)
@@ -74,23 +71,27 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
     Progress p;
     p.max = int(mov.recordCount());
     int16_t contador = 1;
-    auto lado = [&](const QString &cta, const QString &cpartida, const QString &tipolan) {
+    StatementText ins;
+    auto lado = [&](const QString &cta, const QString &cpartida, QStringView tipolan) {
         if (cta.length() != 6)
             return;
-        con.Execute(QStringLiteral("INSERT INTO MovRazao(codigo,datalan,nrlan,cta,cpartida,") %
-                    QStringLiteral("nrdoc,histlan,vlrlan,tipolan) ") % QStringLiteral("VALUES (") %
-                    q(QString::number(contador)) % QStringLiteral(",") % q(mov[QStringLiteral("datalan")].text()) %
-                    QStringLiteral(",") % mov[QStringLiteral("codauto")].text() % QStringLiteral(",") % q(cta) %
-                    QStringLiteral(",") % q(cpartida) % QStringLiteral(",") % q(mov[QStringLiteral("nrdoc")].text()) %
-                    QStringLiteral(",") % q(mov[QStringLiteral("histlan")].text()) % QStringLiteral(",") %
-                    q(mov[QStringLiteral("vlrlan")].text()) % QStringLiteral(",") % q(tipolan) % QStringLiteral(")"));
+        ins.begin(u"INSERT INTO MovRazao(codigo,datalan,nrlan,cta,cpartida,nrdoc,histlan,vlrlan,tipolan) VALUES (")
+            .q(QString::number(contador)) << u",";
+        ins.q(mov[QStringLiteral("datalan")].text()) << u"," << mov[QStringLiteral("codauto")].text() << u",";
+        ins.q(cta) << u",";
+        ins.q(cpartida) << u",";
+        ins.q(mov[QStringLiteral("nrdoc")].text()) << u",";
+        ins.q(mov[QStringLiteral("histlan")].text()) << u",";
+        ins.q(mov[QStringLiteral("vlrlan")].text()) << u",";
+        ins.q(tipolan) << u")";
+        con.Execute(ins.text());
         contador = proximo(contador);
     };
     while (!mov.eof()) {
         const QString deb = mov[QStringLiteral("ctadeb")].text();
         const QString cre = mov[QStringLiteral("ctacre")].text();
-        lado(deb, cre, QStringLiteral("D"));
-        lado(cre, deb, QStringLiteral("C"));
+        lado(deb, cre, u"D");
+        lado(cre, deb, u"C");
         p.value += 1;
         if (progresso)
             progresso(p);
@@ -112,8 +113,9 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
     QString contaAtual;
     Money saldo;
     const QString colunaAbertura = colunaMes(QStringLiteral("sf"), mesIni - 1);
-    const QString insere = QStringLiteral("INSERT INTO MovRazao(codigo,datalan,nrlan,cta,cpartida,") +
-                           QStringLiteral("nrdoc,histlan,vlrlan,tipolan,saldo,tiposal) ");
+    const QStringView insere =
+        u"INSERT INTO MovRazao(codigo,datalan,nrlan,cta,cpartida,nrdoc,histlan,vlrlan,tipolan,saldo,tiposal) VALUES (";
+    const QString abertura = formatDate(inicio, QStringLiteral("dd/mm/yyyy"));
     p.value = 0;
     p.max = int(linhas.recordCount());
     while (!linhas.eof()) {
@@ -125,27 +127,32 @@ bool EncheMovRazao(Connection &con, const RazaoPeriodo &periodo, const ProgressF
             Recordset plano = con.Execute(QStringLiteral("SELECT ") + colunaAbertura +
                                           QStringLiteral(" FROM plano WHERE codigo = '") + cta + QStringLiteral("'"));
             saldo = plano.eof() ? Money() : valorMensal(plano[colunaAbertura]);
-            con.Execute(insere % QStringLiteral("VALUES (") % q(QString::number(contador)) % QStringLiteral(",") %
-                        q(formatDate(inicio, QStringLiteral("dd/mm/yyyy"))) % QStringLiteral(",0,") % q(cta) %
-                        QStringLiteral(",'','',") % QStringLiteral("'Saldo Anterior',0,'',") % q(moneyText(saldo)) %
-                        QStringLiteral(",") % q(tipoSaldo(saldo)) % QStringLiteral(")"));
+            ins.begin(insere).q(QString::number(contador)) << u",";
+            ins.q(abertura) << u",0,";
+            ins.q(cta) << u",'','','Saldo Anterior',0,'',";
+            ins.q(moneyText(saldo)) << u",";
+            ins.q(tipoSaldo(saldo)) << u")";
+            con.Execute(ins.text());
             contador = proximo(contador);
             continue;
         }
+        const Field &tipolan = linhas[QStringLiteral("tipolan")];
         const Money valor = valorMensal(linhas[QStringLiteral("vlrlan")]);
-        if (linhas[QStringLiteral("tipolan")].text() == QStringLiteral("D"))
+        if (tipolan.text() == QStringLiteral("D"))
             saldo += valor;
         else
             saldo -= valor;
-        con.Execute(insere % QStringLiteral("VALUES (") % q(QString::number(contador)) % QStringLiteral(",") %
-                    q(linhas[QStringLiteral("datalan")].text()) % QStringLiteral(",") %
-                    linhas[QStringLiteral("nrlan")].text() % QStringLiteral(",") % q(cta) % QStringLiteral(",") %
-                    q(linhas[QStringLiteral("cpartida")].text()) % QStringLiteral(",") %
-                    q(linhas[QStringLiteral("nrdoc")].text()) % QStringLiteral(",") %
-                    q(linhas[QStringLiteral("histlan")].text()) % QStringLiteral(",") %
-                    q(linhas[QStringLiteral("vlrlan")].text()) % QStringLiteral(",") %
-                    q(linhas[QStringLiteral("tipolan")].text()) % QStringLiteral(",") % q(moneyText(saldo)) %
-                    QStringLiteral(",") % q(tipoSaldo(saldo)) % QStringLiteral(")"));
+        ins.begin(insere).q(QString::number(contador)) << u",";
+        ins.q(linhas[QStringLiteral("datalan")].text()) << u"," << linhas[QStringLiteral("nrlan")].text() << u",";
+        ins.q(cta) << u",";
+        ins.q(linhas[QStringLiteral("cpartida")].text()) << u",";
+        ins.q(linhas[QStringLiteral("nrdoc")].text()) << u",";
+        ins.q(linhas[QStringLiteral("histlan")].text()) << u",";
+        ins.q(linhas[QStringLiteral("vlrlan")].text()) << u",";
+        ins.q(tipolan.text()) << u",";
+        ins.q(moneyText(saldo)) << u",";
+        ins.q(tipoSaldo(saldo)) << u")";
+        con.Execute(ins.text());
         p.value += 1;
         if (progresso)
             progresso(p);

@@ -369,6 +369,13 @@ void razaoBruto(Bruto &b, int mesFim)
 void atualizaBruto(Bruto &b)
 {
     const int base = 3;
+    // The year's journal, read before anything is wiped.
+    {
+        sqlite3_stmt *sel = b.st("SELECT ctadeb,vlrlan FROM Mov08 WHERE datalan BETWEEN ?1 AND ?2 ORDER BY ctadeb");
+        Bruto::texto(sel, 1, iso(2008, 3, 1));
+        Bruto::texto(sel, 2, iso(2008, 3, 31));
+        b.passo(sel);
+    }
     b.exec("BEGIN");
     for (int m = base; m <= 12; ++m)
         b.exec("UPDATE plano SET " + mesCol("sf", m) + " = 0, " + mesCol("vd", m) + " = 0, " + mesCol("vc", m) + " = 0");

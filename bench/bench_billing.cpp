@@ -88,10 +88,9 @@ double emissao(long &emitidos)
     Connection con;
     con.Open(kConnectionPrefix + arquivo + QStringLiteral(";"));
     const ParametrosEmissao p = leParametros(con);
-    QElapsedTimer t;
-    t.start();
+    bench::Clock t;
     const ResultadoEmissao r = emissaoAutomatica(con, p);
-    const double s = double(t.nsecsElapsed()) / 1e9;
+    const double s = t.stop();
     emitidos = r.emitidos;
     con.Close();
     setPrompter(anterior);
@@ -104,8 +103,7 @@ double pelaLinhaDeComando(long &emitidos)
     Sim sim;
     Prompter *anterior = setPrompter(&sim);
     const QString arquivo = modelo().copia();
-    QElapsedTimer t;
-    t.start();
+    bench::Clock t;
     Connection con;
     con.Open(kConnectionPrefix + arquivo + QStringLiteral(";"));
     const ParametrosEmissao p = leParametros(con);
@@ -113,7 +111,7 @@ double pelaLinhaDeComando(long &emitidos)
     if (!confereUltimoRecibo(con, p.fnreci))
         emitidos = emissaoAutomatica(con, p).emitidos;
     con.Close();
-    const double s = double(t.nsecsElapsed()) / 1e9;
+    const double s = t.stop();
     setPrompter(anterior);
     return s;
 }
@@ -127,14 +125,13 @@ double pelaForma(long &emitidos)
     session.conAtiva = kConnectionPrefix + arquivo + QStringLiteral(";");
     session.conSistema = kConnectionPrefix + modelo().dir.path() + QStringLiteral("/demo/Con000.mdb;");
     session.usuario = QStringLiteral("Maria");
-    QElapsedTimer t;
-    t.start();
+    bench::Clock t;
     {
         frmParametro form;
         form.show();
         form.findChild<QPushButton *>(QStringLiteral("cmdInicia"))->click();
     }
-    const double s = double(t.nsecsElapsed()) / 1e9;
+    const double s = t.stop();
     Connection con;
     con.Open(session.conAtiva);
     Recordset rs = con.Execute(QStringLiteral("SELECT Count(codigo) as I FROM Recibos WHERE nemis = '200804'"));
@@ -185,8 +182,7 @@ double mesmoTrabalho(long &emitidos)
     sqlite3 *db = nullptr;
     sqlite3_open_v2(arquivo.constData(), &db, SQLITE_OPEN_READWRITE, nullptr);
     sqlite3_exec(db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
-    QElapsedTimer t;
-    t.start();
+    bench::Clock t;
     emitidos = 0;
     {
         {
@@ -288,7 +284,7 @@ double mesmoTrabalho(long &emitidos)
             fnreci.step();
         }
     }
-    const double s = double(t.nsecsElapsed()) / 1e9;
+    const double s = t.stop();
     sqlite3_close(db);
     return s;
 }

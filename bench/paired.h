@@ -7,7 +7,12 @@
 // rates. A loaded machine can neither fake nor hide a change that way.
 //
 // Each side runs one repetition and returns its own time in seconds, so that
-// preparing a fresh copy of a file stays out of the figure.
+// preparing a fresh copy of a file stays out of the figure; a side that times
+// itself with bench::Clock gives its processor time too. Beside the ratio of
+// elapsed times the table shows the ratio of processor times (user and
+// system): on a machine where other builds take the processors, the elapsed
+// time of a run that waits on the disk swells less than that of a run that
+// computes, and the processor times show what each side itself spent.
 #include <QElapsedTimer>
 #include <QString>
 #include <algorithm>
@@ -15,6 +20,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <time.h>
 #include <vector>
 
 namespace bench {
@@ -27,13 +33,43 @@ struct Pair {
     std::function<double()> raw;
 };
 
+// Processor time of this process so far, user and system, in seconds.
+inline double processorSeconds()
+{
+    timespec ts{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
+    return double(ts.tv_sec) + double(ts.tv_nsec) / 1e9;
+}
+
+// Processor time of the last section a Clock timed; negative when none did.
+inline double &lastProcessorSeconds()
+{
+    static double seconds = -1;
+    return seconds;
+}
+
+// Times a section: elapsed time returned, processor time kept for run().
+class Clock {
+public:
+    Clock() : cpu_(processorSeconds()) { wall_.start(); }
+    double stop()
+    {
+        const double wall = double(wall_.nsecsElapsed()) / 1e9;
+        lastProcessorSeconds() = processorSeconds() - cpu_;
+        return wall;
+    }
+
+private:
+    QElapsedTimer wall_;
+    double cpu_;
+};
+
 // Times a callable.
 inline double seconds(const std::function<void()> &fn)
 {
-    QElapsedTimer t;
-    t.start();
+    Clock c;
     fn();
-    return double(t.nsecsElapsed()) / 1e9;
+    return c.stop();
 }
 
 // Pairs from "--pares=N" or HAB_BENCH_PARES, else the given default.
@@ -64,29 +100,41 @@ inline QString rate(double perSecond, const char *unit)
 // Runs every pair `pairs` times, alternating, and prints one line each.
 inline void run(const std::vector<Pair> &list, int pairs)
 {
-    std::printf("%-52s %12s %12s %9s %9s %9s %9s\n", "work", "project", "raw", "ratio min", "median", "proj med",
-                "raw med");
+    std::printf("%-52s %12s %12s %9s %9s %9s %9s %9s %9s\n", "work", "project", "raw", "ratio min", "median",
+                "cpu min", "cpu med", "proj med", "raw med");
+    // One side's run: its elapsed time, and its processor time (the section's
+    // when it timed itself with a Clock, else the whole call's).
+    auto once = [](const std::function<double()> &side, double &cpu) {
+        lastProcessorSeconds() = -1;
+        const double before = processorSeconds();
+        const double wall = side();
+        cpu = lastProcessorSeconds() >= 0 ? lastProcessorSeconds() : processorSeconds() - before;
+        return wall;
+    };
     for (const Pair &p : list) {
-        std::vector<double> ratios, tp, tr;
-        p.project();  // warm-up of both: caches, files, the page cache
-        p.raw();
+        std::vector<double> ratios, cpuRatios, tp, tr;
+        double cp = 0, cr = 0;
+        once(p.project, cp);  // warm-up of both: caches, files, the page cache
+        once(p.raw, cr);
         for (int i = 0; i < pairs; ++i) {
             double a, b;
             if (i % 2 == 0) {
-                a = p.project();
-                b = p.raw();
+                a = once(p.project, cp);
+                b = once(p.raw, cr);
             } else {
-                b = p.raw();
-                a = p.project();
+                b = once(p.raw, cr);
+                a = once(p.project, cp);
             }
             tp.push_back(a);
             tr.push_back(b);
             ratios.push_back(b / a);
+            cpuRatios.push_back(cr / cp);
         }
         const double mp = median(tp), mr = median(tr);
-        std::printf("%-52s %12s %12s %9.2f %9.2f %8.3fs %8.3fs\n", p.work, qPrintable(rate(p.items / mp, p.unit)),
-                    qPrintable(rate(p.items / mr, p.unit)), *std::min_element(ratios.begin(), ratios.end()),
-                    median(ratios), mp, mr);
+        std::printf("%-52s %12s %12s %9.2f %9.2f %9.2f %9.2f %8.3fs %8.3fs\n", p.work,
+                    qPrintable(rate(p.items / mp, p.unit)), qPrintable(rate(p.items / mr, p.unit)),
+                    *std::min_element(ratios.begin(), ratios.end()), median(ratios),
+                    *std::min_element(cpuRatios.begin(), cpuRatios.end()), median(cpuRatios), mp, mr);
         std::fflush(stdout);
     }
 }

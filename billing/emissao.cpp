@@ -9,6 +9,8 @@
 #include <QStringBuilder>
 #include <algorithm>
 #include <cstdint>
+#include <limits>
+#include <QHash>
 
 SelecaoEmissao montaSelecao(const QString &fsempr, QChar fordem, bool fhonor, bool temEventoFixo,
                             const QString &fnemis, const QDate &fdemis)
@@ -107,11 +109,44 @@ struct Insercao {
 
     void item(const QString &codigo, const QString &comp, const QString &valor)
     {
-        colunas += QStringLiteral("item%1,comp%1,refer%1,valor%1,").arg(slot);
+        const QString n = QString::number(slot);
+        colunas += QLatin1String("item") % n % QLatin1String(",comp") % n % QLatin1String(",refer") % n
+            % QLatin1String(",valor") % n % QLatin1Char(',');
         valores += QLatin1Char('\'') % codigo % QStringLiteral("','") % comp % QStringLiteral("','0','") % valor
             % QStringLiteral("',");
         ++slot;
     }
+};
+
+// Texts that repeat from unit to unit, made once per run: the due date by
+// the unit's due day (a month has 31 of them at most) and the amounts.
+class Memo {
+public:
+    explicit Memo(const QString &fmvcto) : fmvcto_(fmvcto) {}
+
+    QString vencimento(const Field &diavcto)
+    {
+        const qint64 dia = diavcto.isNull() ? std::numeric_limits<qint64>::min() : diavcto.toInt();
+        auto it = vencimentos_.find(dia);
+        if (it == vencimentos_.end())
+            it = vencimentos_.insert(dia, textoData(dataVencimento(diavcto, fmvcto_)));
+        return *it;
+    }
+
+    QString valor(Money v)
+    {
+        auto it = valores_.find(v.units());
+        if (it == valores_.end()) {
+            if (valores_.size() >= 1024)
+                valores_.clear();
+            it = valores_.insert(v.units(), textoValor(v));
+        }
+        return *it;
+    }
+
+private:
+    QString fmvcto_;
+    QHash<qint64, QString> vencimentos_, valores_;
 };
 
 } // namespace
@@ -163,6 +198,7 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
         progresso(barra);
 
     const QString demis = textoData(m.fdemis);
+    Memo memo(m.fmvcto);
     while (!lista.eof()) {
         Recordset ap = con.Execute(
             QStringLiteral("SELECT codauto,codigo,nome,tipcob,tipbolbco,situ,honor,honcb,honfr,refer,diavcto "
@@ -173,7 +209,7 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
             r.interrompida = true;
             break;
         }
-        const QDate vencto = dataVencimento(ap[QStringLiteral("diavcto")], m.fmvcto);
+        const QString vencto = memo.vencimento(ap[QStringLiteral("diavcto")]);
         const QString apto = ZeroEsq(ap[QStringLiteral("codigo")].text(), 6);
         const QString situ = ap[QStringLiteral("situ")].text();
         const Money honor = ap[QStringLiteral("honor")].toMoney();
@@ -197,7 +233,7 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
         // Fee items go to vtoth whatever their event's type.
         auto taxa = [&](const QString &evento, const QString &comp, Money valor) {
             if (val(evento) > 0 && valor > Money()) {
-                ins.item(ZeroEsq(evento, 3), comp.trimmed(), textoValor(valor));
+                ins.item(ZeroEsq(evento, 3), comp.trimmed(), memo.valor(valor));
                 t.vtotal += valor;
                 t.vtoth += valor;
             }
@@ -217,11 +253,11 @@ ResultadoEmissao emissaoAutomatica(Connection &con, const ParametrosEmissao &for
                     % QStringLiteral("Tipcob,Tipbolbco,situacao,") % ins.colunas
                     % QStringLiteral("vtoth,vtotr,vtott,vtotd,vtotal)") % QStringLiteral(" VALUES('") % numero
                     % QStringLiteral("','") % apto % QStringLiteral("',\"") % m.fnemis % QStringLiteral("\",'")
-                    % demis % QStringLiteral("','") % textoData(vencto) % QStringLiteral("','") % tipcob
+                    % demis % QStringLiteral("','") % vencto % QStringLiteral("','") % tipcob
                     % QStringLiteral("','") % tipbolbco % QStringLiteral("','") % situ % QStringLiteral("',")
-                    % ins.valores % QLatin1Char('\'') % textoValor(t.vtoth) % QStringLiteral("','")
-                    % textoValor(t.vtotr) % QStringLiteral("','") % textoValor(t.vtott) % QStringLiteral("','")
-                    % textoValor(t.vtotd) % QStringLiteral("','") % textoValor(t.vtotal) % QStringLiteral("')"));
+                    % ins.valores % QLatin1Char('\'') % memo.valor(t.vtoth) % QStringLiteral("','")
+                    % memo.valor(t.vtotr) % QStringLiteral("','") % memo.valor(t.vtott) % QStringLiteral("','")
+                    % memo.valor(t.vtotd) % QStringLiteral("','") % memo.valor(t.vtotal) % QStringLiteral("')"));
         par.commit();
         ++r.emitidos;
         if (progresso) {

@@ -84,8 +84,19 @@ QString Field::text() const
     switch (value_.typeId()) {
     case QMetaType::QString:
         return value_.toString();
-    case QMetaType::QDate:
-        return value_.toDate().toString(QStringLiteral("dd/MM/yyyy"));
+    case QMetaType::QDate: {
+        // "dd/mm/yyyy" written digit by digit: a trip through the calendar's
+        // formatter costs more than the rest of a row.
+        int y = 0, m = 0, d = 0;
+        value_.toDate().getDate(&y, &m, &d);
+        if (y < 1000 || y > 9999)
+            return value_.toDate().toString(QStringLiteral("dd/MM/yyyy"));
+        const char16_t s[10] = {char16_t(u'0' + d / 10),      char16_t(u'0' + d % 10),       u'/',
+                                char16_t(u'0' + m / 10),      char16_t(u'0' + m % 10),       u'/',
+                                char16_t(u'0' + y / 1000),    char16_t(u'0' + y / 100 % 10), char16_t(u'0' + y / 10 % 10),
+                                char16_t(u'0' + y % 10)};
+        return QString(reinterpret_cast<const QChar *>(s), 10);
+    }
     case QMetaType::Bool:
         return value_.toBool() ? QStringLiteral("Verdadeiro") : QStringLiteral("Falso");
     case QMetaType::LongLong:
@@ -161,9 +172,9 @@ struct ColumnSet {
     QStringList origins;  // "table.column" of a plain column, empty for an expression
     std::vector<std::optional<ColumnKind>> kinds;
     // Where a name asked for was found, by the address of the asker's text:
-    // a loop asks with the same literal each time. Checked before it is
-    // trusted, since the address of a freed text may come back with another.
-    mutable QHash<const void *, qsizetype> asked;
+    // a loop asks with the same literal each time. The text is kept here, so
+    // that its memory cannot be freed and come back holding another name.
+    mutable QHash<const void *, std::pair<QString, qsizetype>> asked;
 };
 
 struct Prepared {
@@ -462,21 +473,20 @@ int jetNocase(void *, int n1, const void *p1, int n2, const void *p2)
 {
     const auto *a = static_cast<const unsigned char *>(p1);
     const auto *b = static_cast<const unsigned char *>(p2);
-    bool ascii = true;
-    for (int i = 0; i < n1 && ascii; ++i)
-        ascii = a[i] < 0x80;
-    for (int i = 0; i < n2 && ascii; ++i)
-        ascii = b[i] < 0x80;
-    if (ascii) {
-        const int n = std::min(n1, n2);
-        for (int i = 0; i < n; ++i) {
-            const int ca = (a[i] >= 'A' && a[i] <= 'Z') ? a[i] + 32 : a[i];
-            const int cb = (b[i] >= 'A' && b[i] <= 'Z') ? b[i] + 32 : b[i];
-            if (ca != cb)
-                return ca - cb;
-        }
-        return n1 - n2;
+    // ASCII up to the first difference decides alone: an accented letter
+    // after it cannot change the order.
+    const int n = std::min(n1, n2);
+    int i = 0;
+    for (; i < n; ++i) {
+        if ((a[i] | b[i]) & 0x80)
+            break;
+        const int ca = (a[i] >= 'A' && a[i] <= 'Z') ? a[i] + 32 : a[i];
+        const int cb = (b[i] >= 'A' && b[i] <= 'Z') ? b[i] + 32 : b[i];
+        if (ca != cb)
+            return ca - cb;
     }
+    if (i == n)
+        return n1 - n2;
     const QString ta = QString::fromUtf8(reinterpret_cast<const char *>(a), n1);
     const QString tb = QString::fromUtf8(reinterpret_cast<const char *>(b), n2);
     if (const int c = sortKey(ta, false).compare(sortKey(tb, false)))
@@ -645,7 +655,11 @@ struct Connection::Impl {
                 rc = sqlite3_bind_double(p.stmt, index, v.d);
                 break;
             case jet::BoundValue::Text:
-                if (!v.text.isNull())
+                if (v.isoDate) {
+                    char *const start = used;
+                    used = std::copy(v.iso, v.iso + sizeof v.iso, used);
+                    rc = sqlite3_bind_text(p.stmt, index, start, int(sizeof v.iso), SQLITE_STATIC);
+                } else if (!v.text.isNull())
                     rc = bindText(index, v.text);
                 else if (tok.text.isEmpty())
                     rc = sqlite3_bind_text(p.stmt, index, "", 0, SQLITE_STATIC);
@@ -679,8 +693,10 @@ struct Recordset::Impl {
     std::shared_ptr<const ColumnSet> columns;
     std::vector<Cell> cells;
     std::string store;                // the bytes of the text cells
-    mutable std::vector<Field> fields;  // made when first asked for, then kept
-    mutable std::vector<bool> made;
+    // The current row's fields, made when first asked for. Like the original's
+    // Field objects, one stands for its column and shows the current row.
+    mutable std::vector<Field> fields;
+    mutable std::vector<size_t> madeFor;  // row + 1 each field was made for; 0: none
     size_t rows = 0;
     size_t current = 0;
     bool open = false;
@@ -692,24 +708,23 @@ struct Recordset::Impl {
     {
         cells.clear();
         store.clear();
-        fields.clear();
-        made.clear();
+        std::fill(madeFor.begin(), madeFor.end(), 0);
         rows = 0;
         current = 0;
     }
 
     const Field &field(size_t column) const
     {
-        const size_t k = current * width() + column;
-        if (fields.empty()) {
-            fields.resize(cells.size());
-            made.assign(cells.size(), false);
+        const size_t n = width();
+        if (fields.size() != n) {
+            fields.assign(n, Field());
+            madeFor.assign(n, 0);
         }
-        if (!made[k]) {
-            fields[k] = makeField(cells[k], store, columns->kinds[column]);
-            made[k] = true;
+        if (madeFor[column] != current + 1) {
+            fields[column] = makeField(cells[current * n + column], store, columns->kinds[column]);
+            madeFor[column] = current + 1;
         }
-        return fields[k];
+        return fields[column];
     }
 };
 
@@ -749,7 +764,6 @@ void Connection::Impl::run(Prepared &p, const QString &statement, Recordset::Imp
             *affected = ncols > 0 ? 0 : long(sqlite3_changes(db));
     }
     sqlite3_reset(st);
-    sqlite3_clear_bindings(st);
 }
 
 namespace {
@@ -791,19 +805,21 @@ void Connection::Impl::execute(const QString &sql, Recordset::Impl *rs, long *af
         throw DatabaseError(QStringLiteral("Instrução SQL inválida."), sql);
     if (lexed.cacheable) {
         auto it = cache.constFind(lexed.key);
-        std::shared_ptr<Prepared> p;
+        // Nothing below touches the cache before the statement has run.
+        Prepared *p = nullptr;
         if (it != cache.constEnd()) {
-            p = *it;
+            p = it->get();
         } else {
             const jet::Translation tr =
                 jet::translate(lexed, [this](const QString &t) { return columnsOf(t); });
             if (!tr.attachments.empty())
                 return executeUncached(tr, sql, rs, affected);
-            p = prepare(tr.sql, sql);
-            p->params = tr.params;
+            std::shared_ptr<Prepared> made = prepare(tr.sql, sql);
+            made->params = tr.params;
             if (cache.size() >= kCacheLimit)
                 cache.clear();
-            cache.insert(lexed.key, p);
+            cache.insert(lexed.key, made);
+            p = made.get();
         }
         bind(*p, sql);
         run(*p, sql, rs, affected);
@@ -1071,8 +1087,37 @@ Transaction::~Transaction()
 
 // ---- Recordset ---------------------------------------------------------------
 
-Recordset::Recordset() : impl_(std::make_unique<Impl>()) {}
-Recordset::~Recordset() = default;
+// Every statement makes a recordset and drops it: their innards are kept for
+// the next one (the data store runs on one thread), small ones only.
+namespace {
+std::vector<Recordset::Impl *> &spareRecordsets()
+{
+    static auto *spare = new std::vector<Recordset::Impl *>;  // lives to the end of the program
+    return *spare;
+}
+}
+
+Recordset::Recordset()
+{
+    auto &spare = spareRecordsets();
+    if (spare.empty()) {
+        impl_ = std::make_unique<Impl>();
+    } else {
+        impl_.reset(spare.back());
+        spare.pop_back();
+    }
+}
+
+Recordset::~Recordset()
+{
+    if (!impl_)
+        return;
+    auto &spare = spareRecordsets();
+    if (spare.size() >= 8 || impl_->cells.capacity() > 4096 || impl_->store.capacity() > 65536)
+        return;
+    Close();
+    spare.push_back(impl_.release());
+}
 Recordset::Recordset(Recordset &&) noexcept = default;
 Recordset &Recordset::operator=(Recordset &&) noexcept = default;
 
@@ -1129,9 +1174,8 @@ const Field &Recordset::operator[](const QString &column) const
         throw DatabaseError(kNoCurrentRecord, column);
     const ColumnSet &cols = *impl_->columns;
     const auto remembered = cols.asked.constFind(column.constData());
-    if (remembered != cols.asked.constEnd() && *remembered < cols.names.size() &&
-        cols.names[*remembered].compare(column, Qt::CaseInsensitive) == 0)
-        return impl_->field(size_t(*remembered));
+    if (remembered != cols.asked.constEnd() && remembered->first.size() == column.size())
+        return impl_->field(size_t(remembered->second));
     qsizetype index = -1;
     for (qsizetype c = 0; c < cols.names.size() && index < 0; ++c)
         if (cols.names[c].compare(column, Qt::CaseInsensitive) == 0)
@@ -1145,7 +1189,7 @@ const Field &Recordset::operator[](const QString &column) const
         throw DatabaseError(
             QStringLiteral("Item não encontrado na coleção correspondente ao nome ou ao ordinal solicitado."), column);
     if (cols.asked.size() < 256)
-        cols.asked.insert(column.constData(), index);
+        cols.asked.insert(column.constData(), {column, index});
     return impl_->field(size_t(index));
 }
 

@@ -54,6 +54,36 @@ private:
 
 class Recordset;
 
+// The text of a statement that a loop makes row after row, written into one
+// buffer that keeps its memory from one statement to the next.
+//   StatementText ins;
+//   ins.begin(u"INSERT INTO T (a,b) VALUES (").q(a) << u",";
+//   ins.q(b) << u")";
+//   con.Execute(ins.text());
+class StatementText {
+public:
+    StatementText &begin(QStringView text)
+    {
+        s_.resize(0);
+        return *this << text;
+    }
+    StatementText &operator<<(QStringView text)
+    {
+        s_.append(text);
+        return *this;
+    }
+    // The text between apostrophes, as the statements write their values.
+    StatementText &q(QStringView text)
+    {
+        s_.append(QLatin1Char('\'')).append(text).append(QLatin1Char('\''));
+        return *this;
+    }
+    const QString &text() const { return s_; }
+
+private:
+    QString s_;
+};
+
 // Hears every statement text as it is sent on any connection, before it
 // runs (tests record what the forms send). Returns the listener it replaces;
 // an empty function stops listening.

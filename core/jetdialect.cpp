@@ -9,8 +9,23 @@ namespace jet {
 
 namespace {
 
-bool isIdentStart(QChar c) { return c.isLetter() || c == u'_'; }
-bool isIdentPart(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+// ASCII answered at once; the tables of Unicode only beyond it.
+bool isAsciiLetter(char16_t c) { return (c | 0x20) >= u'a' && (c | 0x20) <= u'z'; }
+bool isIdentStart(QChar c)
+{
+    const char16_t u = c.unicode();
+    return u < 0x80 ? isAsciiLetter(u) || u == u'_' : c.isLetter();
+}
+bool isIdentPart(QChar c)
+{
+    const char16_t u = c.unicode();
+    return u < 0x80 ? isAsciiLetter(u) || (u >= u'0' && u <= u'9') || u == u'_' : c.isLetterOrNumber();
+}
+bool isBlank(QChar c)
+{
+    const char16_t u = c.unicode();
+    return u < 0x80 ? u == u' ' || (u >= 9 && u <= 13) : c.isSpace();
+}
 bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
 bool is(const Token &t, QLatin1StringView word)
@@ -82,7 +97,7 @@ void lex(QStringView sql, Lexed &out)
     bool setClause = false;
     qsizetype i = 0;
     while (true) {
-        while (i < n && sql[i].isSpace())
+        while (i < n && isBlank(sql[i]))
             ++i;
         if (i >= n)
             break;
@@ -152,12 +167,14 @@ void lex(QStringView sql, Lexed &out)
             t.text = sql.mid(start + 1, i - start - 1);
             ++i;
         } else {
-            static const char16_t *const pairs[] = {u"<>", u"<=", u">=", u"!=", u"||", u"=="};
+            // Two-character operators: <> <= >= != || ==.
             qsizetype len = 1;
-            if (i + 1 < n)
-                for (const char16_t *p : pairs)
-                    if (sql[i] == QChar(p[0]) && sql[i + 1] == QChar(p[1]))
-                        len = 2;
+            if (i + 1 < n) {
+                const char16_t a = c.unicode(), b = sql[i + 1].unicode();
+                if ((a == u'<' && (b == u'>' || b == u'=')) || ((a == u'>' || a == u'!' || a == u'=') && b == u'=') ||
+                    (a == u'|' && b == u'|'))
+                    len = 2;
+            }
             t.type = TokenType::Operator;
             t.text = sql.mid(start, len);
             i += len;
@@ -701,12 +718,19 @@ std::optional<double> readNumberText(QStringView text)
     text = text.trimmed();
     if (text.isEmpty())
         return std::nullopt;
-    std::string s;
-    s.reserve(size_t(text.size()));
+    // The digits, sign and point go to a buffer on the stack when they fit.
+    char small[64];
+    std::string large;
+    char *s = small;
+    if (text.size() >= qsizetype(sizeof small)) {
+        large.resize(size_t(text.size()) + 1);
+        s = large.data();
+    }
+    char *w = s;
     qsizetype i = 0;
     if (text[0] == u'-' || text[0] == u'+') {
         if (text[0] == u'-')
-            s += '-';
+            *w++ = '-';
         i = 1;
     }
     qsizetype lastSep = -1;
@@ -736,16 +760,16 @@ std::optional<double> readNumberText(QStringView text)
     for (qsizetype k = i; k < text.size(); ++k) {
         const QChar c = text[k];
         if (isDigit(c)) {
-            s += char(c.unicode());
+            *w++ = char(c.unicode());
             digits = true;
         } else if (k == decimal) {
-            s += '.';
+            *w++ = '.';
         }
     }
     if (!digits)
         return std::nullopt;
     double v = 0;
-    const auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+    const auto r = std::from_chars(s, w, v);
     if (r.ec != std::errc())
         return std::nullopt;
     return v;
@@ -775,10 +799,19 @@ namespace {
 // A number as the statement writes it: digits, a decimal point, an exponent.
 std::optional<double> numberToken(QStringView t)
 {
-    const std::string s = t.toString().toStdString();
+    // The token holds digits, a point and an exponent only: ASCII.
+    char small[64];
+    std::string large;
+    char *s = small;
+    if (t.size() >= qsizetype(sizeof small)) {
+        large.resize(size_t(t.size()));
+        s = large.data();
+    }
+    for (qsizetype i = 0; i < t.size(); ++i)
+        s[i] = t[i].unicode() < 0x80 ? char(t[i].unicode()) : '?';
     double v = 0;
-    const auto r = std::from_chars(s.data(), s.data() + s.size(), v);
-    if (r.ec != std::errc() || r.ptr != s.data() + s.size())
+    const auto r = std::from_chars(s, s + t.size(), v);
+    if (r.ec != std::errc() || r.ptr != s + t.size())
         return std::nullopt;
     return v;
 }
@@ -791,18 +824,22 @@ bool isIntegralText(QStringView t)
     return !t.isEmpty() && t.size() <= 18;
 }
 
-// "yyyy-mm-dd" of a date of four-digit year, without a trip through QLocale.
-QString isoText(const QDate &d)
+// A date for a date column: "yyyy-mm-dd" kept in the value itself for a
+// four-digit year, without a trip through QLocale or the heap.
+void setIsoDate(BoundValue &b, const QDate &d)
 {
+    b.type = BoundValue::Text;
     int y = 0, m = 0, day = 0;
     d.getDate(&y, &m, &day);
-    if (y < 1000 || y > 9999)
-        return d.toString(Qt::ISODate);
-    const char16_t s[10] = {char16_t(u'0' + y / 1000),     char16_t(u'0' + y / 100 % 10), char16_t(u'0' + y / 10 % 10),
-                            char16_t(u'0' + y % 10),       u'-',
-                            char16_t(u'0' + m / 10),       char16_t(u'0' + m % 10),       u'-',
-                            char16_t(u'0' + day / 10),     char16_t(u'0' + day % 10)};
-    return QString(reinterpret_cast<const QChar *>(s), 10);
+    if (y < 1000 || y > 9999) {
+        b.text = d.toString(Qt::ISODate);
+        return;
+    }
+    const char s[10] = {char('0' + y / 1000), char('0' + y / 100 % 10), char('0' + y / 10 % 10), char('0' + y % 10), '-',
+                        char('0' + m / 10),   char('0' + m % 10),       '-',
+                        char('0' + day / 10), char('0' + day % 10)};
+    std::copy(s, s + 10, b.iso);
+    b.isoDate = true;
 }
 
 BoundValue numberValue(double v, ColumnKind kind)
@@ -873,9 +910,13 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
         const QDate d = readDateLiteral(token.text);
         if (!d.isValid())
             fail(QStringLiteral("Erro de sintaxe na data na expressão de consulta."), statement);
-        b.type = BoundValue::Text;
         // A date written to a text column is kept as the screen shows it.
-        b.text = kind == ColumnKind::Text ? d.toString(QStringLiteral("dd/MM/yyyy")) : isoText(d);
+        if (kind == ColumnKind::Text) {
+            b.type = BoundValue::Text;
+            b.text = d.toString(QStringLiteral("dd/MM/yyyy"));
+        } else {
+            setIsoDate(b, d);
+        }
         return b;
     }
     case TokenType::Text:
@@ -899,8 +940,7 @@ BoundValue convert(const Token &token, const ParamTarget &target, QStringView st
         const QDate d = readDateText(text);
         if (!d.isValid())
             fail(kTypeMismatch, statement);
-        b.type = BoundValue::Text;
-        b.text = isoText(d);
+        setIsoDate(b, d);
         return b;
     }
     case ColumnKind::Boolean: {

@@ -77,7 +77,9 @@ struct BoundValue {
     enum Type { Null, Integer, Real, Text } type = Null;
     qint64 i = 0;
     double d = 0;
-    QString text;  // Text: converted text (dates ISO); empty when the token's own text is used
+    QString text;  // Text: converted text; empty when the token's own text is used
+    char iso[10] = {};  // Text of a date read for a date column, "yyyy-mm-dd", when isoDate
+    bool isoDate = false;
 };
 
 // Converts a parameter token for its target. Quoted text written to or

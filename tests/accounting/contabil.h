@@ -79,6 +79,12 @@ protected:
         return rs.eof() ? Money() : rs[coluna].toMoney();
     }
     Money plano(const QString &codigo, const QString &coluna) { return valor(QStringLiteral("Plano"), codigo, coluna); }
+    // The columns asked for of one row, as text: "1000|300|1700".
+    std::string linha(const char *tabela, const char *codigo, const char *colunas)
+    {
+        return leLinha(session.conAtiva, S("SELECT %1 FROM %2 WHERE codigo = '%3'").arg(S(colunas), S(tabela), S(codigo)))
+            .toStdString();
+    }
 
     long linhas(const QString &sql)
     {

@@ -19,38 +19,27 @@ protected:
         poe(S("01.001"), S("po0805"), S("800"));
         poe(S("01.001"), S("sf05"), S("-9999"));
     }
-    Money rb(const char *codigo, const char *coluna) { return valor(S("RBalancete"), S(codigo), S(coluna)); }
-    Money rp(const char *codigo, const char *coluna) { return valor(S("RPcontas"), S(codigo), S(coluna)); }
+    // A row of the work table: sini, vdeb, vcre, sfin, spct, spo.
+    std::string rb(const char *codigo) { return linha("RBalancete", codigo, "sini,vdeb,vcre,sfin,spct,spo"); }
 };
 
 TEST_F(Balancete, MonthIsRoundedPeriodIsNotAndBalancesComeFromTheFirstMonth)
 {
     ASSERT_TRUE(EncheRBalancete(con, S("3"), QString(), false, S("2008")));
     EXPECT_EQ(linhas(S("SELECT * FROM RBalancete")), 9);
-    EXPECT_EQ(rb("01.001", "sini"), reais("-100"));     // -100,005 rounds up at the tie
-    EXPECT_EQ(rb("01.001", "sfin"), reais("-1200,01"));
-    EXPECT_EQ(rb("01.001", "vcre"), reais("1100,01"));
-    EXPECT_EQ(rb("01.001", "vdeb"), Money());
-    EXPECT_EQ(rb("01.001", "spct"), reais("-1100,01"));  // raw debit-positive sign
-    EXPECT_EQ(rb("01.001", "spo"), reais("1000"));
-    Recordset rs = con.Execute(S("SELECT * FROM RBalancete WHERE codigo = '01.'"));
-    EXPECT_TRUE(rs[S("sintetico")].toBool());
-    EXPECT_EQ(rs[S("nome")].text(), S("RECEITAS"));
-    EXPECT_EQ(rs[S("tipo")].text(), S("R"));
+    // -100,005 rounds up at the tie; spct keeps the raw debit-positive sign.
+    EXPECT_EQ(rb("01.001"), "-100|0|1100,01|-1200,01|-1100,01|1000");
+    EXPECT_EQ(leLinha(session.conAtiva, S("SELECT nome,tipo,sintetico FROM RBalancete WHERE codigo = '01.'")), S("RECEITAS|R|Verdadeiro"));
 
     // A period of March to May: movement summed unrounded, sini and sfin
     // still those of March.
     ASSERT_TRUE(EncheRBalancete(con, S("3"), S("5"), true, S("2008")));
     EXPECT_EQ(linhas(S("SELECT * FROM RBalancete")), 9);
-    EXPECT_EQ(rb("01.001", "vcre"), reais("1400,0149"));
-    EXPECT_EQ(rb("01.001", "spct"), reais("-1400,0149"));
-    EXPECT_EQ(rb("01.001", "spo"), reais("2700"));
-    EXPECT_EQ(rb("01.001", "sini"), reais("-100"));
-    EXPECT_EQ(rb("01.001", "sfin"), reais("-1200,01"));
+    EXPECT_EQ(rb("01.001"), "-100|0|1400,0149|-1200,01|-1400,0149|2700");
 
     // A period of one month: the monthly figures, unrounded.
     ASSERT_TRUE(EncheRBalancete(con, S("3"), S("3"), true, S("2008")));
-    EXPECT_EQ(rb("01.001", "vcre"), reais("1100,006"));
+    EXPECT_EQ(rb("01.001"), "-100|0|1100,006|-1200,01|-1100,006|1000");
 }
 
 TEST_F(Balancete, MontaBalanceteGivesTheFormsMonthlyRows)
@@ -107,21 +96,19 @@ TEST_F(Balancete, RPcontasTurnsRevenueAndAddsCashOnlyWhenAsked)
     EncheRPcontas(con, S("3"), S("2008"), false);
     EXPECT_EQ(linhas(S("SELECT * FROM RPcontas")), 6);
     EXPECT_EQ(linhas(S("SELECT * FROM RPcontas WHERE tipo = 'C'")), 0);
-    EXPECT_EQ(rp("01.001", "spct"), reais("1100,006"));  // credits over debits: positive
-    EXPECT_EQ(rp("01.001", "sfin"), reais("1200,011"));  // sign dropped, not rounded
-    EXPECT_EQ(rp("01.001", "spo"), reais("1000"));
-    EXPECT_EQ(rp("01.", "spct"), Money());
-    EXPECT_EQ(rp("01.", "sfin"), reais("5000"));
-    EXPECT_EQ(rp("01.002", "spct"), reais("-50"));
-    EXPECT_EQ(rp("01.002", "sfin"), reais("50"));
-    EXPECT_EQ(rp("02.001", "spct"), reais("300"));       // expenses keep their sign
-    EXPECT_EQ(rp("02.002", "sfin"), reais("-20"));
+    // Revenue turned positive (credits over debits), the balance's sign
+    // dropped and not rounded; a synthetic row keeps spct and spo at zero;
+    // expenses keep their sign. Columns spct, sfin, spo:
+    EXPECT_EQ(linha("RPcontas", "01.001", "spct,sfin,spo"), "1100,006|1200,011|1000");
+    EXPECT_EQ(linha("RPcontas", "01.", "spct,sfin,spo"), "0|5000|0");
+    EXPECT_EQ(linha("RPcontas", "01.002", "spct,sfin,spo"), "-50|50|0");
+    EXPECT_EQ(linha("RPcontas", "02.001", "spct,sfin,spo"), "300|300|0");
+    EXPECT_EQ(linha("RPcontas", "02.002", "spct,sfin,spo"), "0|-20|0");
     // Revenue 1.050,006 rounded by the database, less 300 of expenses.
     EXPECT_EQ(ResultadoPctEspecial(con), reais("750,01"));
 
     EncheRPcontas(con, S("3"), S("2008"), true);
     EXPECT_EQ(linhas(S("SELECT * FROM RPcontas")), 8);   // 03. and 03.001; 09. is not cash
-    EXPECT_EQ(rp("03.001", "sini"), reais("1000"));
-    EXPECT_EQ(rp("03.001", "sfin"), reais("1500"));
-    EXPECT_EQ(rp("03.", "spct"), Money());
+    EXPECT_EQ(linha("RPcontas", "03.001", "sini,sfin"), "1000|1500");
+    EXPECT_EQ(linha("RPcontas", "03.", "spct"), "0");
 }

@@ -5,40 +5,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(AjusteTaxas, StatementsInOrderSkippingZeros)
-{
-    AjusteTaxas a;
-    a.honor = reais(400.5);
-    a.honcb = reais(25);
-    a.honfr = reais(10);
-    a.normal = 10;
-    a.apos = 20;
-    EXPECT_EQ(sqlAjusteTodos(a), QStringList({
-                                     "UPDATE Aptos SET honor = '400,5'",
-                                     "UPDATE Aptos SET honcb = '25' WHERE cabina = true",
-                                     "UPDATE Aptos SET honcb = 0 WHERE cabina = false",
-                                     "UPDATE Aptos SET honfr = '10'",
-                                     "UPDATE Aptos SET diavcto = 10 WHERE aposentado = false",
-                                     "UPDATE Aptos SET diavcto = 20 WHERE aposentado = true",
-                                 }));
-    AjusteTaxas soHonor;
-    soHonor.honor = reais(300);
-    EXPECT_EQ(sqlAjusteTodos(soHonor), QStringList({"UPDATE Aptos SET honor = '300'",
-                                                    "UPDATE Aptos SET honcb = 0 WHERE cabina = true"}));
-    EXPECT_EQ(sqlAjusteTipo({QStringLiteral("02"), a}),
-              QStringList({
-                  "UPDATE Aptos SET honor = '400,5' WHERE tapto = '02'",
-                  "UPDATE Aptos SET honcb = '25' WHERE cabina = true AND tapto = '02'",
-                  "UPDATE Aptos SET honcb = 0 WHERE cabina = false AND tapto = '02'",
-                  "UPDATE Aptos SET honfr = '10' WHERE tapto = '02'",
-                  "UPDATE Aptos SET diavcto = 10 WHERE aposentado = false AND tapto = '02'",
-                  "UPDATE Aptos SET diavcto = 20 WHERE aposentado = true AND tapto = '02'",
-              }));
-    AjusteTipo soDia{QStringLiteral("03"), {}};
-    soDia.valores.apos = 5;
-    EXPECT_EQ(sqlAjusteTipo(soDia), QStringList({"UPDATE Aptos SET diavcto = 5 WHERE aposentado = true AND tapto = '03'"}));
-}
-
 TEST(AjusteTaxas, AllApartmentsAndByType)
 {
     Condominio c;
@@ -70,6 +36,13 @@ TEST(AjusteTaxas, AllApartmentsAndByType)
     prompt.answer(vbYes);
     EXPECT_TRUE(ajustaPorTipo(c.con, {{QStringLiteral("01"), AjusteTaxas{}}, {QStringLiteral("02"), tipo2}}));
     EXPECT_EQ(aptos(), QStringLiteral("30|10|300\n0|10|300\n0|25|500\n"));
+
+    // A fee alone, with cents: the cabins' fee is zeroed too, as it always was.
+    AjusteTaxas soHonor;
+    soHonor.honor = reais(320.5);
+    prompt.answer(vbYes);
+    EXPECT_TRUE(ajustaTodos(c.con, soHonor));
+    EXPECT_EQ(aptos(), QStringLiteral("0|10|320,5\n0|10|320,5\n0|25|320,5\n"));
 }
 
 TEST(RecalculoTotais, RepairMovesTheRunsFeeIntoItsTypesTotal)

@@ -17,47 +17,6 @@ TEST(ParametrosGuarda, AutomaticRunRefusesSelectiveOrRectification)
     EXPECT_EQ(p.calls[0].title, QStringLiteral("Atenção..."));
 }
 
-TEST(ParametrosGravacao, OneStatementInTheFormsOrder)
-{
-    ParametrosEmissao p;
-    p.fnemis = QStringLiteral("0203");
-    p.fdemis = QStringLiteral("05/02/2003");
-    p.fmvcto = QStringLiteral("02/2003");
-    p.fnreci = QStringLiteral("000100");
-    p.fordem = QLatin1Char('A');
-    p.fsempr = QStringLiteral("2");
-    p.fpimpr = 1.5;
-    p.ftitu1 = QStringLiteral("1a. Via");
-    p.ftitu2 = QStringLiteral("D'Ávila");
-    p.fvref = {reais(100), reais(12.5), Money()};
-    p.fhonor = true;
-    p.fautom = true;
-    p.fevnt = {QStringLiteral("020"), QStringLiteral("___"), QString(), QString()};
-    p.fvlev = {-10, 0, 0, 0};
-    p.fcpev = {QStringLiteral("Multa"), QString(), QString(), QString()};
-    p.fEvTc = QStringLiteral("001");
-    p.fCpTc = QStringLiteral("Fev");
-    p.fEvCb = QStringLiteral("002");
-    p.fEvFr = QStringLiteral("003");
-    p.fmsg = QStringLiteral("Pague em dia");
-    EXPECT_EQ(sqlGravaParametros(p),
-              QStringLiteral("UPDATE Parametros Set fnemis = '0203',fdemis = '05/02/2003',fmvcto = '02/2003',"
-                             "fnreci = '000100',fordem = 'A',fsempr = '2',fpimpr = '1,5',ftitu1 = \"1a. Via\","
-                             "ftitu2 = \"D'Ávila\",fvref1 = '100',fvref2 = '12,5',fvref3 = '0',fretit = False,"
-                             "fspool = False,fautom = True,fhonor = True,fpdigi = False,fevnt1 = '020',"
-                             "fevnt2 = '___',fevnt3 = '',fevnt4 = '',fvlev1 = '-10',fvlev2 = '0',fvlev3 = '0',"
-                             "fvlev4 = '0',fcpev1 = 'Multa',fcpev2 = '',fcpev3 = '',fcpev4 = '',fEvTc = '001',"
-                             "fCpTc = 'Fev',fEvCb = '002',fCpCb = '',fEvFr = '003',fCpfr = '',"
-                             "fmsg = \"Pague em dia\" Where codigo = 1"));
-    p.fdemis = kEmptyDate;
-    p.fmvcto = kEmptyMonthYear;
-    p.fordem = QLatin1Char('S');
-    p.fsempr = QStringLiteral("T");
-    const QString s = sqlGravaParametros(p);
-    EXPECT_TRUE(s.contains(QStringLiteral("fdemis = null,fmvcto = null,fnreci = '000100',fordem = 'S',fsempr = 'T',")))
-        << s.toStdString();
-}
-
 TEST(ParametrosGravacao, StoredMonthAndDayReadBackAsTyped)
 {
     Condominio c;
@@ -65,7 +24,10 @@ TEST(ParametrosGravacao, StoredMonthAndDayReadBackAsTyped)
     p.fvlev[0] = -10;
     p.fevnt[0] = QStringLiteral("030");
     p.fcpev[0] = QStringLiteral("Pontualidade");
-    p.fvref[1] = reais(100);
+    p.fvref[1] = reais(12.5);  // numbers go into the statement with a comma
+    p.fpimpr = 1.5;
+    p.ftitu2 = QStringLiteral("D'Ávila");
+    p.fordem = QLatin1Char('A');
     ASSERT_TRUE(gravaParametros(c.con, p).empty());
     const ParametrosEmissao lido = leParametros(c.con);
     // The day 05 must not be taken for a month, nor 02/2003 for a day.
@@ -77,9 +39,17 @@ TEST(ParametrosGravacao, StoredMonthAndDayReadBackAsTyped)
     EXPECT_EQ(lido.fnemis, QStringLiteral("0203"));
     EXPECT_TRUE(lido.fhonor);
     EXPECT_EQ(lido.fvlev[0], -10.0);
-    EXPECT_EQ(lido.fvref[1], reais(100));
+    EXPECT_EQ(lido.fvref[1], reais(12.5));
+    EXPECT_EQ(lido.fpimpr, 1.5);
+    EXPECT_EQ(lido.ftitu2, QStringLiteral("D'Ávila"));
+    EXPECT_EQ(lido.fordem, QLatin1Char('A'));
     EXPECT_EQ(lido.fcpev[0], QStringLiteral("Pontualidade"));
     EXPECT_EQ(lido.fEvTc, QStringLiteral("001"));
+
+    // Blank dates go as null.
+    p.fdemis = kEmptyDate;
+    p.fmvcto = kEmptyMonthYear;
+    EXPECT_TRUE(sqlGravaParametros(p).contains(QStringLiteral("fdemis = null,fmvcto = null,"))) << sqlGravaParametros(p).toStdString();
 }
 
 TEST(ParametrosGravacao, LastNumberMayNotGoBelowTheHighestReceipt)

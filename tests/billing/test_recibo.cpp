@@ -42,8 +42,6 @@ TEST(ReciboNumeracao, NextNumberAndWriteBack)
     EXPECT_EQ(proximoNumero(QStringLiteral("000999")), QStringLiteral("001000"));
     // Past 999999 the number grows to seven digits rather than failing the run.
     EXPECT_EQ(proximoNumero(QStringLiteral("999999")), QStringLiteral("1000000"));
-    EXPECT_EQ(sqlGravaFnreci(QStringLiteral("000300")),
-              QStringLiteral("UPDATE Parametros Set fnreci = '000300' Where codigo = 1"));
 
     Condominio c;
     c.con.Execute(sqlGravaFnreci(QStringLiteral("000050")));

@@ -126,7 +126,6 @@ TEST(Pesquisa, SystemFileAndUnitsDialogs)
     dir.execSistema(QStringLiteral("INSERT INTO Clientes(codigo,nome) VALUES(7,\"Edifício Sete\")"));
     dir.execAtivo(QStringLiteral("INSERT INTO Aptos(codigo,codinterno,nome) VALUES('000101','A-11',\"Ana\")"));
     dir.execAtivo(QStringLiteral("INSERT INTO Aptos(codigo,codinterno,nome) VALUES('000102','A-12',\"Bruno\")"));
-    StatementLog log;
     ModalScript modal;
     modal.on(QStringLiteral("frmPesqGeral"), procura(QStringLiteral("Nome"), QStringLiteral("Edif"), QStringLiteral("cmdOk")));
     modal.on(QStringLiteral("frmPesqap"), [](QDialog &d) {
@@ -140,9 +139,6 @@ TEST(Pesquisa, SystemFileAndUnitsDialogs)
     ASSERT_TRUE(abrePesquisa(nullptr, QStringLiteral("frmPesqap"), QStringLiteral("Pesquisa de Apartamentos"),
                              QStringLiteral("Aptos")));
     EXPECT_EQ(session.valorPesq, QStringLiteral("000102"));
-    EXPECT_TRUE(log.sent.contains(QStringLiteral("SELECT Count(codigo) As I FROM Clientes")));
-    EXPECT_TRUE(log.sent.contains(QStringLiteral("SELECT codigo,nome FROM Clientes")));
-    EXPECT_TRUE(log.sent.contains(QStringLiteral("SELECT codigo,codinterno,nome FROM Aptos")));
 }
 
 TEST(Pesquisa, CallersTypeTheCodeAndLoadIt)

@@ -100,8 +100,11 @@ TEST(MainWindow, AdministratorLoginThenAUserWhoseMissingFileIsCreated)
     mdi.acao(QStringLiteral("tob12"))->trigger();
     EXPECT_EQ(mdi.windowTitle(), QStringLiteral("Habitarium - Versão 1.0.0 - {Administradora Teste}  -  Usuário: Maria  -  "
                                                 "Empresa Ativa: 1 - Residencial Teste"));
-    EXPECT_TRUE(QFile::exists(dir.file(QStringLiteral("Con001.mdb"))));
+    EXPECT_EQ(p.last().title, QStringLiteral("Criar Arquivo..."));
     EXPECT_EQ(session.conAtiva, connectionString(dir.path(), QStringLiteral("Con001.mdb"), QString()));
+    // The new file is seeded with the login's "(Nenhum)" rows.
+    EXPECT_EQ(leLinhas(session.conAtiva, QStringLiteral("SELECT codigo,nome,tipo FROM Pjuridica ORDER BY tipo")),
+              QStringLiteral("0|(Nenhum)|0\n0|(Nenhum)|1\n"));
     EXPECT_FALSE(session.confirmaSaida);
     expectEntries(mdi, false);
 }
@@ -165,16 +168,11 @@ TEST(MainWindow, ThreeRefusedTriesEndTheProgramAfterTheMessage)
 TEST(MainWindow, CancelledOrClosedLoginEndsTheProgram)
 {
     ShellDir dir;
-    {
+    // Cancelar, then Esc or the frame's close.
+    for (const ModalScript::Act &sai : {clickButton(QStringLiteral("cmdcancelar")), ModalScript::Act([](QDialog &d) { d.reject(); })}) {
         mdiHabitarium mdi;
         ModalScript m;
-        m.on(QStringLiteral("frmSenha"), clickButton(QStringLiteral("cmdcancelar")));
-        EXPECT_THROW(mdi.Carrega(dir.path()), ProgramEnded);
-    }
-    {
-        mdiHabitarium mdi;
-        ModalScript m;
-        m.on(QStringLiteral("frmSenha"), [](QDialog &d) { d.reject(); });  // Esc or the frame's close
+        m.on(QStringLiteral("frmSenha"), sai);
         EXPECT_THROW(mdi.Carrega(dir.path()), ProgramEnded);
     }
 }
@@ -374,23 +372,11 @@ TEST(MainWindow, AFormThatFailsToLoadIsNotOpenedAndTheProgramGoesOn)
     EXPECT_FALSE(p.programEnded);
 }
 
-TEST(MainWindow, MenuCaptionsAndWindowList)
+TEST(MainWindow, AFormOpenedTwiceAndTheWindowList)
 {
     ShellDir dir;
     registerCoreForms();
     mdiHabitarium mdi;
-    EXPECT_EQ(mdi.acao(QStringLiteral("mnuArquivo"))->text(), QStringLiteral("&Arquivos"));
-    EXPECT_EQ(mdi.acao(QStringLiteral("mnuAreas"))->text(), QStringLiteral("Á&reas Comuns"));
-    EXPECT_EQ(mdi.acao(QStringLiteral("mnuSpool"))->text(), QStringLiteral("&Spool (2º Via)"));
-    EXPECT_EQ(mdi.acao(QStringLiteral("mnuBcosDiversos"))->text(), QStringLiteral("Bancos &Diversos - Novo Modelo"));
-    QMenu *recibos = mdi.findChild<QMenu *>(QStringLiteral("mnuRecibos"));
-    ASSERT_NE(recibos, nullptr);
-    QStringList inRecibos;
-    for (QAction *a : recibos->actions())
-        inRecibos << a->objectName();
-    EXPECT_EQ(inRecibos, (QStringList{QStringLiteral("mnuAjhon"), QStringLiteral("mnuBaixa"), QStringLiteral("mnuEmis"),
-                                      QStringLiteral("mnuSpool")}));
-
     // A form opened twice comes to the front instead of a second copy.
     QWidget *sobre = mdi.abreForm(QStringLiteral("frmSobre"));
     ASSERT_NE(sobre, nullptr);
@@ -488,40 +474,24 @@ TEST(PrinterChoice, StoredForTheUser)
               QStringLiteral("L"));
 }
 
-TEST(ErrorsDialog, FatalFindingsOnlyAcknowledgedWarningsChosen)
+// The warnings' Sim/Não road: test_frmblocos WarningAsksAndSavesOnSimOnly.
+TEST(ErrorsDialog, FatalFindingsOnlyAcknowledged)
 {
     LimpaErros();
     AnotaErro(kAlertaErro, QStringLiteral("Telefone sem DDD"));
     AnotaErro(kErroFatal, QStringLiteral("Todo Registro deve ter um código válido"));
-    {
-        frmErros form;
-        auto *grid = form.findChild<QTableWidget *>(QStringLiteral("tdbErros"));
-        ASSERT_EQ(grid->rowCount(), 2);
-        EXPECT_EQ(grid->item(1, 0)->text(), QStringLiteral("2"));
-        EXPECT_EQ(grid->item(1, 1)->text(), QStringLiteral("Erro Fatal"));
-        EXPECT_EQ(grid->horizontalHeaderItem(1)->text(), QStringLiteral("Tipo "));
-        EXPECT_EQ(form.findChild<QLabel *>(QStringLiteral("lblMensagem"))->text(),
-                  QStringLiteral("Corrija os erros fatais, a gravação não pode ser realizada !"));
-        EXPECT_FALSE(form.findChild<QPushButton *>(QStringLiteral("cmdOk"))->isHidden());
-        EXPECT_TRUE(form.findChild<QPushButton *>(QStringLiteral("cmdSim"))->isHidden());
-        EXPECT_TRUE(form.findChild<QPushButton *>(QStringLiteral("cmdNao"))->isHidden());
-        session.cancelaGrava = false;
-        form.findChild<QPushButton *>(QStringLiteral("cmdOk"))->click();
-        EXPECT_TRUE(session.cancelaGrava);
-    }
-    LimpaErros();
-    AnotaErro(kAlertaErro, QStringLiteral("Telefone sem DDD"));
-    {
-        frmErros form;
-        EXPECT_EQ(form.findChild<QLabel *>(QStringLiteral("lblMensagem"))->text(), QStringLiteral("Deseja gravar assim mesmo ?"));
-        EXPECT_TRUE(form.findChild<QPushButton *>(QStringLiteral("cmdOk"))->isHidden());
-        form.findChild<QPushButton *>(QStringLiteral("cmdSim"))->click();
-        EXPECT_FALSE(session.cancelaGrava);
-    }
-    {
-        frmErros form;
-        form.findChild<QPushButton *>(QStringLiteral("cmdNao"))->click();
-        EXPECT_TRUE(session.cancelaGrava);
-    }
+    frmErros form;
+    auto *grid = form.findChild<QTableWidget *>(QStringLiteral("tdbErros"));
+    ASSERT_EQ(grid->rowCount(), 2);
+    EXPECT_EQ(grid->item(1, 0)->text(), QStringLiteral("2"));
+    EXPECT_EQ(grid->item(1, 1)->text(), QStringLiteral("Erro Fatal"));
+    EXPECT_EQ(grid->horizontalHeaderItem(1)->text(), QStringLiteral("Tipo "));
+    EXPECT_EQ(form.findChild<QLabel *>(QStringLiteral("lblMensagem"))->text(),
+              QStringLiteral("Corrija os erros fatais, a gravação não pode ser realizada !"));
+    EXPECT_TRUE(form.findChild<QPushButton *>(QStringLiteral("cmdSim"))->isHidden());
+    EXPECT_TRUE(form.findChild<QPushButton *>(QStringLiteral("cmdNao"))->isHidden());
+    session.cancelaGrava = false;
+    form.findChild<QPushButton *>(QStringLiteral("cmdOk"))->click();
+    EXPECT_TRUE(session.cancelaGrava);
     LimpaErros();
 }

@@ -81,19 +81,6 @@ TEST(InstallationSettings, WrittenReadBackAndPadded)
     EXPECT_EQ(padNomeCliente(QString(50, QLatin1Char('x'))), QString(40, QLatin1Char('x')));
 }
 
-TEST(Titles, BuiltFromTheSession)
-{
-    session.nomeCliente = padNomeCliente(QStringLiteral("Administradora Sol"));
-    session.usuario = QStringLiteral("Maria");
-    session.empat = 7;
-    session.nomeEmp = QStringLiteral("Edifício Aurora");
-    EXPECT_EQ(tituloInicial(), QStringLiteral("Habitarium - Versão 1.0.0 - {Administradora Sol}"));
-    EXPECT_EQ(tituloAdministrador(),
-              QStringLiteral("Habitarium - Versão 1.0.0 - {Administradora Sol}  -  Usuário: Administrador"));
-    EXPECT_EQ(tituloUsuario(), QStringLiteral("Habitarium - Versão 1.0.0 - {Administradora Sol}  -  Usuário: Maria  -  "
-                                              "Empresa Ativa: 7 - Edifício Aurora"));
-}
-
 TEST(Login, AdministratorUsersAndRefusals)
 {
     ShellDir dir;
@@ -129,27 +116,10 @@ TEST(Login, AdministratorUsersAndRefusals)
     EXPECT_EQ(ConfereLogin(cn, QStringLiteral("Maria"), QStringLiteral("errada")), ResultadoLogin::Recusado);
     EXPECT_EQ(ConfereLogin(cn, QStringLiteral("Ninguem"), QStringLiteral("segredo")), ResultadoLogin::Recusado);
     cn.Close();
-}
 
-TEST(Login, BlankFieldsNeverReachTheDatabase)
-{
-    ShellDir dir;
-    Connection closed;  // any statement on it would fail
-    EXPECT_EQ(ConfereLogin(closed, QString(), QStringLiteral("segredo")), ResultadoLogin::CamposVazios);
-    EXPECT_EQ(ConfereLogin(closed, QStringLiteral("Maria"), QString()), ResultadoLogin::CamposVazios);
-    EXPECT_EQ(ConfereLogin(closed, QString(), QString()), ResultadoLogin::CamposVazios);
-}
-
-TEST(Rights, ReadFromUsuariosAtEachTest)
-{
-    ShellDir dir;
-    session.usuario = QStringLiteral("Joao");
-    EXPECT_FALSE(TemDireito(QStringLiteral("cfcon")));
-    dir.execSistema(QStringLiteral("UPDATE Usuarios SET cfcon = True Where nome = 'Joao'"));
-    EXPECT_TRUE(TemDireito(QStringLiteral("cfcon")));  // no new login needed
-    EXPECT_FALSE(TemDireito(QStringLiteral("cfadi")));
-    session.usuario = QStringLiteral("Administrador");  // no row: no right
-    EXPECT_FALSE(TemDireito(QStringLiteral("cfcon")));
+    // Blank fields never reach the database: any statement on the closed connection would fail.
+    for (const auto &[login, senha] : {std::pair{QString(), QStringLiteral("segredo")}, {QStringLiteral("Maria"), QString()}})
+        EXPECT_EQ(ConfereLogin(cn, login, senha), ResultadoLogin::CamposVazios);
 }
 
 TEST(Activation, WithAndWithoutTheFile)
@@ -191,21 +161,10 @@ TEST(Activation, WithAndWithoutTheFile)
     cn.Close();
 }
 
-TEST(Activation, LoginPathSeedsANewFileOrChoosesAnother)
+TEST(Activation, LoginPathChoosesAnotherOrEnds)
 {
+    // Yes makes the seeded file: test_shellforms, the change of user.
     ShellDir dir;
-    session.empat = 3;
-    {
-        ScriptedPrompter p;
-        p.answer(vbYes, QStringLiteral("Não Existe o Banco de Dados do Condomínio 3, Cria um Novo Vazio ? "));
-        bool escolheu = false;
-        PreparaArquivoAtivo([&] { escolheu = true; });
-        EXPECT_FALSE(escolheu);
-        EXPECT_EQ(p.calls[0].title, QStringLiteral("Criar Arquivo..."));
-    }
-    EXPECT_EQ(leLinhas(session.conAtiva, QStringLiteral("SELECT codigo,nome,tipo FROM Pjuridica ORDER BY tipo")),
-              QStringLiteral("0|(Nenhum)|0\n0|(Nenhum)|1\n"));
-
     session.empat = 4;
     {
         // No, then yes: another condominium is chosen; leaving it unchosen
