@@ -250,3 +250,21 @@ FimImpressaoBoleto imprimeSelecaoBoletos(Connection &con, const ParametrosImpres
     }
     return FimImpressaoBoleto::Pronto;
 }
+
+QStringList recibosSemBarraValida(const ImpressaoBoletos &impressao)
+{
+    const qsizetype barra = impressao.colunas.indexOf(QStringLiteral("barrabco"));
+    const qsizetype numero = impressao.colunas.indexOf(QStringLiteral("NumDoc"));
+    QStringList recibos;
+    if (barra < 0 || numero < 0)
+        return recibos;
+    for (const QStringList &linha : impressao.linhas) {
+        const QString &codigo = linha.value(barra);
+        bool digitos = codigo.size() == 44;
+        for (QChar c : codigo)
+            digitos = digitos && c.isDigit();
+        if (!digitos)
+            recibos << linha.value(numero);
+    }
+    return recibos;
+}

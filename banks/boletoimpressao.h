@@ -80,6 +80,12 @@ struct ImpressaoBoletos {
 // Runs sqlBoletos(filtro) and fills one row a receipt. No rows: empty `linhas`.
 ImpressaoBoletos montaBoletos(Connection &con, const ParametrosImpressao &p, const QString &filtro);
 
+// The receipts (NumDoc) whose stored bar code is not of 44 digits: the engine
+// cannot draw it, and their slips print without bars. A bank's numbers of
+// other lengths (a 422 counter under eight digits, a 237 account of six) make
+// such codes.
+QStringList recibosSemBarraValida(const ImpressaoBoletos &impressao);
+
 enum class FimImpressaoBoleto {
     Pronto,          // `impressao` holds the slips
     SemNumero,       // "Você não especificou o Número do Recibo !"

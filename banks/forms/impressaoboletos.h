@@ -2,6 +2,7 @@
 // The slips of banks/boletoimpressao.h handed to the report engine: the data
 // as the engine takes it, and the preview of frmRelatorio.
 #include "banks/boletoimpressao.h"
+#include "core/prompter.h"
 #include "reporting/imprime.h"
 
 // The statement's lines as the rows of the slip's sub-report.
@@ -37,7 +38,15 @@ inline ReportData dadosRelatorio(const ImpressaoBoletos &impressao)
 }
 
 // Shows the slips in the preview, titled with txtTitulo.
+// Slips whose bar code the engine cannot draw are named to the clerk: on the
+// page they would only lack their bars.
 inline void mostraBoletos(const ImpressaoBoletos &impressao)
 {
     MostraRelatorio(impressao.modelo, dadosRelatorio(impressao));
+    const QStringList semBarra = recibosSemBarraValida(impressao);
+    if (!semBarra.isEmpty())
+        MsgBox(QStringLiteral("O código de barras dos recibos ") + semBarra.join(QStringLiteral(", "))
+                   + QStringLiteral(" não tem 44 dígitos: esses boletos saem sem as barras. "
+                                    "Confira os parâmetros do banco e calcule de novo !"),
+               vbExclamation, QStringLiteral("Atenção"));
 }

@@ -1,4 +1,5 @@
 #include "banks/bancos.h"
+#include "banks/boletoimpressao.h"
 
 #include "banks/checkdigits.h"
 #include "core/conversions.h"
@@ -217,4 +218,29 @@ TEST(Bancos, FatorCiclicoPorData)
         expectSlipLayout(b.barra, b.linha, p.banco, QString::number(c.on), valorBarra(Money::fromUnits(5573700)),
                          b.campoLivre);
     }
+}
+
+// A bar code the engine cannot draw (a 422 counter under eight digits gives 37
+// or 38 digits) prints a slip without bars: the print names those receipts.
+TEST(Boletos, ReceiptsWhoseBarCodeIsNotFortyFourDigitsAreNamed)
+{
+    ImpressaoBoletos impressao;
+    impressao.colunas = colunasBoleto();
+    const qsizetype barra = impressao.colunas.indexOf(QStringLiteral("barrabco"));
+    const qsizetype numero = impressao.colunas.indexOf(QStringLiteral("NumDoc"));
+    const struct {
+        const char *recibo, *codigo;
+    } casos[] = {
+        {"000001", "34191380700000647501090000001100074200458260"},  // 44 digits: drawn
+        {"000002", "4229380700000647501234567000000000"},            // short
+        {"000003", ""},                                               // never computed
+        {"000004", "3419138070000064750109000000110007420045826X"},  // not all digits
+    };
+    for (const auto &c : casos) {
+        QStringList linha(impressao.colunas.size());
+        linha[barra] = QString::fromLatin1(c.codigo);
+        linha[numero] = QString::fromLatin1(c.recibo);
+        impressao.linhas.push_back(linha);
+    }
+    EXPECT_EQ(recibosSemBarraValida(impressao), (QStringList{"000002", "000003", "000004"}));
 }
