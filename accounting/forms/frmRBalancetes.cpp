@@ -38,17 +38,7 @@ frmRBalancetes::frmRBalancetes(QWidget *parent) : QWidget(parent), ui_(new Ui::f
 {
     ui_->setupUi(this);
     ui_->tdbAno->setFormato(DateField::Ano);
-    campoMes(ui_->txtMesini);
-    campoMes(ui_->txtMesfin);
-    ui_->txtMesfin->setEnabled(false);
-    connect(ui_->optM, &QRadioButton::clicked, this, [this] {
-        ui_->txtMesfin->setEnabled(false);
-        ui_->txtMesini->setFocus();
-    });
-    connect(ui_->optP, &QRadioButton::clicked, this, [this] {
-        ui_->txtMesfin->setEnabled(true);
-        ui_->txtMesini->setFocus();
-    });
+    ligaMesOuPeriodo(ui_->optM, ui_->optP, ui_->txtMesini, ui_->txtMesfin);
     connect(ui_->cmdImprime, &QPushButton::clicked, this, &frmRBalancetes::cmdImprime_Click);
     connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
     aplicaTeclado(*this);

@@ -20,20 +20,7 @@ frmRRazao::frmRRazao(QWidget *parent) : QWidget(parent), ui_(new Ui::frmRRazao)
 {
     ui_->setupUi(this);
     ui_->tdbAno->setFormato(DateField::Ano);
-    campoMes(ui_->txtMesini);
-    campoMes(ui_->txtMesfin);
-    ui_->txtMesfin->setEnabled(false);
-    // A month report takes no last month: one left in the field from a
-    // period would still widen the ledger's dates.
-    connect(ui_->optM, &QRadioButton::clicked, this, [this] {
-        ui_->txtMesfin->clear();
-        ui_->txtMesfin->setEnabled(false);
-        ui_->txtMesini->setFocus();
-    });
-    connect(ui_->optP, &QRadioButton::clicked, this, [this] {
-        ui_->txtMesfin->setEnabled(true);
-        ui_->txtMesini->setFocus();
-    });
+    ligaMesOuPeriodo(ui_->optM, ui_->optP, ui_->txtMesini, ui_->txtMesfin);
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmRRazao::cmdImprimir_Click);
     connect(ui_->cmdSair, &QPushButton::clicked, this, [this] { fechaForm(*this); });
     aplicaTeclado(*this);

@@ -5,12 +5,29 @@
 #include "core/prompter.h"
 #include "core/widgets/datefield.h"
 
+#include <QRadioButton>
 #include <QRegularExpressionValidator>
 
 void campoMes(QLineEdit *campo)
 {
     campo->setMaxLength(2);
     campo->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), campo));
+}
+
+void ligaMesOuPeriodo(QRadioButton *mensal, QRadioButton *periodo, QLineEdit *mesIni, QLineEdit *mesFin)
+{
+    campoMes(mesIni);
+    campoMes(mesFin);
+    mesFin->setEnabled(false);
+    QObject::connect(mensal, &QRadioButton::clicked, mesFin, [mesIni, mesFin] {
+        mesFin->clear();
+        mesFin->setEnabled(false);
+        mesIni->setFocus();
+    });
+    QObject::connect(periodo, &QRadioButton::clicked, mesFin, [mesIni, mesFin] {
+        mesFin->setEnabled(true);
+        mesIni->setFocus();
+    });
 }
 
 QDate mesBase(Connection &cn)

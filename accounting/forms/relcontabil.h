@@ -9,11 +9,16 @@
 
 class DateField;
 class QLineEdit;
+class QRadioButton;
 
 inline const QString kIndiqueMes = QStringLiteral("Indique o mês base do relatório !");
 
 // A month field: digits only, two at most.
 void campoMes(QLineEdit *campo);
+// Month or period: the last month is typed only for a period. A month report
+// takes no last month, so one left in the field from a period is cleared
+// (it would still widen the ledger's dates).
+void ligaMesOuPeriodo(QRadioButton *mensal, QRadioButton *periodo, QLineEdit *mesIni, QLineEdit *mesFin);
 // The base month of the last balance update (Parametros.mes_movSaldfin):
 // invalid when there is none.
 QDate mesBase(Connection &cn);
